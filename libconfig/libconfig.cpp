@@ -1,0 +1,224 @@
+#include "libconfig.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QStringView>
+#include <QXmlStreamReader>
+
+#include <iostream>
+#include <string>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace libconfig {
+
+namespace {
+
+/// The text of one name, key or value: bytes up to the loader's limit.
+class TextBuffer
+{
+public:
+    void add(char c)
+    {
+        if (bytes.size() < Config::maxTextLength)
+            bytes.push_back(c);
+    }
+    void clear() { bytes.clear(); }
+    /// The text without surrounding white space. Stripped as bytes: QString::trimmed() would take the
+    /// no-break space (0xA0) too, which is an ordinary character here.
+    QByteArray stripped() const { return QByteArray::fromStdString(bytes).trimmed(); }
+
+private:
+    std::string bytes;
+};
+
+/// Whether elements stand deeper in each other than the tree can be freed again: it recurses.
+bool nestsTooDeep(const QByteArray &xml)
+{
+    QXmlStreamReader reader(xml);
+    int depth = 0;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement() && ++depth > Config::maxDepth)
+            return true;
+        if (reader.isEndElement())
+            --depth;
+    }
+    return false;
+}
+
+} // namespace
+
+Config::Config() = default;
+
+Config::Config(const QString &name, const QString &type)
+{
+    constructor(name, type);
+}
+
+Config::~Config() = default;
+
+void Config::constructor(const QString &name, const QString &type)
+{
+    fileName = name;
+    fileType = type;
+    document = std::make_unique<QDomDocument>();
+    if (fileType == "cfg"_L1)
+        loadFile();
+    else if (fileType == "xml"_L1)
+        loadXmlFile();
+}
+
+void Config::readFile(const QString &name, const QString &type)
+{
+    constructor(name, type);
+}
+
+bool Config::openFile()
+{
+    return openFile(fileName);
+}
+
+bool Config::openFile(const QString &name)
+{
+    closeFile();
+    file.open(QFile::encodeName(name).toStdString(), std::ios::in | std::ios::binary);
+    if (file.is_open())
+        return true;
+    std::cout << "Error in the method FileReader::open( " << QFile::encodeName(name).constData()
+              << " ): File Not Found" << std::endl;
+    return false;
+}
+
+void Config::closeFile()
+{
+    file.close();
+    file.clear();
+}
+
+bool Config::jump(char c)
+{
+    char read = 0;
+    while (file.get(read)) {
+        if (read == c)
+            return true;
+    }
+    return false;
+}
+
+void Config::loadFile()
+{
+    if (!openFile())
+        return;
+    depth = 0;
+    const QDomElement root = newElement(fileName);
+    if (readItems(root, *document) == End::File)
+        closeFile();
+}
+
+void Config::loadFile(const QString &name, QDomNode parent)
+{
+    if (depth == maxDepth) {
+        file.setstate(std::ios::eofbit | std::ios::failbit);
+        return;
+    }
+    ++depth;
+    readItems(newElement(name), parent);
+    --depth;
+}
+
+Config::End Config::readItems(QDomElement element, QDomNode parent)
+{
+    TextBuffer text;
+    char c = 0;
+    while (file.get(c)) {
+        switch (c) {
+        case ':': // a block; what stands between the name and its brace is ignored
+            jump('{');
+            parent.appendChild(element);
+            loadFile(QString::fromLatin1(text.stripped()), element);
+            text.clear();
+            break;
+        case '=':
+            element.setAttribute(QString::fromLatin1(text.stripped()), readValue());
+            parent.appendChild(element);
+            text.clear();
+            break;
+        case '}': // a missing ';' swallows everything up to the next one, wherever it is
+            jump(';');
+            return End::Brace;
+        default:
+            text.add(c);
+        }
+    }
+    return End::File;
+}
+
+QString Config::readValue()
+{
+    TextBuffer text;
+    char c = 0;
+    while (file.get(c) && c != ';')
+        text.add(c);
+    // Quotes are deleted wherever they stand, and after the stripping: blanks inside the quotes stay.
+    return QString::fromLatin1(text.stripped().replace('"', QByteArrayView()));
+}
+
+QDomElement Config::newElement(const QString &name)
+{
+    // Made under another name first: the toolkit makes no element for an empty name, but a nameless block is
+    // a block all the same, and hides the blocks behind it when it is the first.
+    QDomElement element = document->createElement(u"block"_s);
+    element.setTagName(name);
+    return element;
+}
+
+void Config::loadXmlFile()
+{
+    QFile xmlFile(fileName);
+    if (!xmlFile.open(QIODevice::ReadOnly))
+        return;
+    const QByteArray content = xmlFile.readAll();
+    if (nestsTooDeep(content) || !document->setContent(content))
+        return;
+    // Whatever stands first moves under the root, a comment or an XML declaration too: then no key is found.
+    QDomElement root = newElement(fileName);
+    root.appendChild(document->firstChild());
+    document->insertBefore(root, document->firstChild());
+}
+
+QString Config::lookup(const QString &key) const
+{
+    if (!document)
+        return {};
+    return lookup(document->documentElement().firstChild(), key);
+}
+
+QString Config::lookup(const QDomNode &node, const QString &key) const
+{
+    const QDomElement element = node.toElement();
+    const QStringView path(key);
+    const qsizetype firstDot = path.indexOf(u'.');
+    if (element.isNull() || element.tagName() != path.left(firstDot < 0 ? path.size() : firstDot))
+        return {};
+    if (firstDot < 0)
+        return {};
+
+    const QStringView rest = path.mid(firstDot + 1);
+    const qsizetype secondDot = rest.indexOf(u'.');
+    if (secondDot < 0)
+        return element.attribute(key.mid(firstDot + 1));
+    const bool hasThirdComponent = secondDot + 1 < rest.size() && rest.at(secondDot + 1) != u'.';
+    if (!hasThirdComponent)
+        return element.attribute(rest.left(secondDot).toString());
+
+    const QString restOfKey = rest.toString();
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        const QString value = lookup(child, restOfKey);
+        if (!value.isEmpty())
+            return value;
+    }
+    return {};
+}
+
+} // namespace libconfig
