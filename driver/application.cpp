@@ -1,0 +1,33 @@
+#include "application.h"
+
+#include <algorithm>
+#include <dlfcn.h>
+
+namespace {
+
+constexpr char moduleName[] = "libpalvestrin-guiapplication.so";
+constexpr char entryName[] = "palvestrinNewGuiApplication";
+using NewGuiApplication = QCoreApplication *(int &argc, char **argv);
+
+bool mayHaveToolkitOptions(int argc, char **argv)
+{
+    return std::any_of(argv + 1, argv + argc, [](const char *word) { return word[0] == '-'; });
+}
+
+/// Null when the module is not installed. It stays loaded: the toolkit cannot be unloaded.
+NewGuiApplication *loadGuiModule()
+{
+    void *module = dlopen(moduleName, RTLD_NOW);
+    return module ? reinterpret_cast<NewGuiApplication *>(dlsym(module, entryName)) : nullptr;
+}
+
+} // namespace
+
+std::unique_ptr<QCoreApplication> newApplication(int &argc, char **argv)
+{
+    if (mayHaveToolkitOptions(argc, argv)) {
+        if (NewGuiApplication *newGuiApplication = loadGuiModule())
+            return std::unique_ptr<QCoreApplication>(newGuiApplication(argc, argv));
+    }
+    return std::make_unique<QCoreApplication>(argc, argv);
+}

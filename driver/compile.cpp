@@ -1,0 +1,82 @@
+#include "compile.h"
+
+#include "application.h"
+#include "jobreader.h"
+#include "localeencoding.h"
+#include "pvconfiguration.h"
+
+#include <QFile>
+#include <QLocale>
+#include <QTranslator>
+#include <QXmlSimpleReader>
+
+#include <csignal>
+#include <fcntl.h>
+#include <iostream>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The toolkit's remarks (that the locale is not UTF-8, that a file is not open) are not for the ordering
+/// application, which takes whatever stands on standard error for a fault. Only what ends the process is
+/// told.
+void tellOnlyFatalMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtFatalMsg)
+        std::cerr << qUtf8Printable(message) << std::endl;
+}
+
+/// A full disk or a reader that went away must not kill the process: the write fails, and that is told.
+void ignoreWriteSignals()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+/// A missing catalogue is no fault: the labels then print as they are written in the code.
+void loadCatalogue(QTranslator &translator, const PVConfiguration &configuration)
+{
+    const QString basedir = configuration.getStrValue(u"palvestrin.language.basedir"_s);
+    const QString file = configuration.getStrValue(u"palvestrin.language.file"_s);
+    if (file == "/"_L1) // the marker for a catalogue named after the locale
+        (void)translator.load(basedir + "/palvestrin_"_L1 + QLocale::system().name(), u"."_s);
+    else
+        (void)translator.load(basedir + file);
+}
+
+/// Opened by the C library, because the toolkit encodes file names as UTF-8 whatever the locale says. A file
+/// that cannot be opened reads as an empty job.
+void openInput(QFile &file, const char *name)
+{
+    const int descriptor = open(name ? name : "", O_RDONLY | O_CLOEXEC);
+    if (descriptor >= 0)
+        file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+}
+
+} // namespace
+
+void compile(int argc, char **argv)
+{
+    if (argc != 3 && argc != 4) {
+        std::cout << "Usage: " << (argc > 0 ? argv[0] : "") << " input_file output_file" << std::endl;
+        return;
+    }
+    qInstallMessageHandler(tellOnlyFatalMessages);
+    ignoreWriteSignals();
+    const auto application = newApplication(argc, argv);
+
+    QTranslator translator;
+    loadCatalogue(translator, *SyncSingleton<PVConfiguration>::instance());
+    QCoreApplication::installTranslator(&translator);
+
+    // The places that are left when the toolkit has consumed its options, which may be null: such a file
+    // cannot be opened, and is treated so.
+    QFile input;
+    JobSource source(&input);
+    JobPrinter printer(LocaleEncoding().decode(argv[2]), source);
+    openInput(input, argv[1]);
+    QXmlSimpleReader reader;
+    reader.setContentHandler(&printer);
+    reader.parse(source);
+}

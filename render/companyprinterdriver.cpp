@@ -1,0 +1,92 @@
+#include "companyprinterdriver.h"
+
+#include "columns.h"
+#include "localeoutput.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+CompanyPrinterDriver::CompanyPrinterDriver(const QString &fileName) : PrinterDriver(fileName, false) {}
+
+CompanyPrinterDriver::~CompanyPrinterDriver() = default;
+
+unsigned int CompanyPrinterDriver::getPaperWidth()
+{
+    return paperWidth;
+}
+
+void CompanyPrinterDriver::setBold() {}
+
+void CompanyPrinterDriver::setCharSize()
+{
+    justification = u"left"_s;
+}
+
+void CompanyPrinterDriver::setCharSize(int)
+{
+    justification = u"left"_s;
+}
+
+void CompanyPrinterDriver::setCenterJustify()
+{
+    justification = u"center"_s;
+}
+
+void CompanyPrinterDriver::fullCut() {}
+
+void CompanyPrinterDriver::generatePulse() {}
+
+void CompanyPrinterDriver::printLogo() {}
+
+void CompanyPrinterDriver::startSection()
+{
+    write(u"\n"_s);
+    if (isFiscal())
+        return; // and the line buffer stays as it is
+    write(u"j\n"_s);
+    lineBuffer = u"\""_s;
+}
+
+void CompanyPrinterDriver::endSection()
+{
+    if (!isFiscal())
+        write(u"J\n"_s);
+}
+
+void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
+{
+    // A rule of the device, for labels and names alike: the word "TOTALE" never reaches the paper. It is
+    // applied to each text on its own, so a word put together from two of them gets through.
+    QString printed = text;
+    printed.replace("TOTALE"_L1, "SOMMA"_L1);
+    lineBuffer += QString(indent, u' ') + printed;
+}
+
+void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
+{
+    print(indent, text);
+    print(0, u"\"@\n"_s);
+    if (justification == "center"_L1) {
+        // From the width of the device, not of the document, and with the quotes counted: a little off the
+        // middle, as it always was. A line too long to centre gets no blanks.
+        const qsizetype room = static_cast<int>(getPaperWidth()) - columns::length(lineBuffer) + 7;
+        lineBuffer.insert(1, QString(qMax<qsizetype>(0, room) / 2, u' '));
+    }
+    write(lineBuffer);
+    lineBuffer = u"\""_s;
+}
+
+void CompanyPrinterDriver::println(const QString &text)
+{
+    println(0, text);
+}
+
+bool CompanyPrinterDriver::isFiscal() const
+{
+    return currentMethod == "printAbstractOrderFiscal"_L1 || currentMethod == "printFullOrderFiscal"_L1;
+}
+
+void CompanyPrinterDriver::write(const QString &text)
+{
+    if (output)
+        *output << text;
+}

@@ -1,0 +1,59 @@
+// Invoices and delivery notes.
+
+#include "documents.h"
+#include "printerdriver.h"
+
+#include <QObject>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void printTotalsRow(PrinterDriver &driver, const QString &title, const QString &value)
+{
+    driver.println(driver.descriptionRow(QString(), title, QString(), value, u'.', u"qdpt"_s));
+}
+
+} // namespace
+
+void PrinterDriver::printFullOrderInvoice(const QString &element, const QXmlAttributes &attributes)
+{
+    if (!printSections(element, attributes))
+        printElement(fullInvoiceElements, *this, element, attributes);
+}
+
+void PrinterDriver::printAbstractOrderInvoice(const QString &element, const QXmlAttributes &attributes)
+{
+    if (!printSections(element, attributes))
+        printElement(abstractInvoiceElements, *this, element, attributes);
+}
+
+void PrinterDriver::printFullOrderDelivery(const QString &element, const QXmlAttributes &attributes)
+{
+    // A delivery note is the order's ticket on other paper, and the customer block is its own.
+    if (element == "customer"_L1)
+        printCustomerHeader(attributes);
+    else
+        printPartialOrder(element, attributes);
+}
+
+void printInvoiceItem(PrinterDriver &driver, const QXmlAttributes &attributes)
+{
+    driver.printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
+                              QObject::tr("Amount"));
+    // "qdpt" where the receipt has "qxdpt": an invoice shows no "x".
+    driver.println(driver.descriptionRow(attributes.value("number"_L1), attributes.value("name"_L1),
+                                         attributes.value("price"_L1), attributes.value("totalPrice"_L1),
+                                         u'.', u"qdpt"_s));
+}
+
+void printInvoiceTotals(PrinterDriver &driver, const QXmlAttributes &attributes)
+{
+    driver.setBold();
+    driver.println(QString());
+    printTotalsRow(driver, QObject::tr("Taxable"), attributes.value("taxable"_L1));
+    printTotalsRow(driver, QObject::tr("TaxRate"), attributes.value("taxrate"_L1));
+    printTotalsRow(driver, QObject::tr("Tax"), attributes.value("tax"_L1));
+    printTotalsRow(driver, QObject::tr("TOTAL"), attributes.value("total"_L1));
+    driver.setCharSize();
+}

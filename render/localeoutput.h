@@ -1,0 +1,33 @@
+#pragma once
+
+#include "localeencoding.h"
+
+#include <QFile>
+#include <QString>
+
+/// The output file of a print job: text goes in, bytes in the encoding of the locale come out.
+///
+/// Every byte of output goes through here. Whoever makes the object closes it; what was given to it is on its
+/// way to the file only after `close`. After the first failed write nothing more is written, so that the file
+/// is always a beginning of the right output, never one with a gap.
+class LocaleOutput
+{
+public:
+    /// Opens `fileName` for writing, in the locale's encoding of the name; an existing file is emptied, or
+    /// added to when `append` is true.
+    LocaleOutput(const QString &fileName, bool append);
+
+    bool isOpen() const { return file.isOpen(); }
+    LocaleOutput &operator<<(const QString &text);
+    /// Writes what is left and closes. False when the file did not take all that it was given: then
+    /// `errorString` has the reason.
+    bool close();
+    QString errorString() const { return error; }
+
+private:
+    void fail();
+
+    LocaleEncoding encoding;
+    QFile file;
+    QString error;
+};

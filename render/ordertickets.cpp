@@ -1,0 +1,93 @@
+// Order tickets: what the kitchen prepares, and the priced list of a whole order.
+
+#include "documents.h"
+#include "printerdriver.h"
+
+#include <QObject>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A variant of the dish above it: "+ Onions", "- Onions", "2 Onions". No number, or one that is not, takes
+/// the ingredient away.
+QString variantDescription(const QXmlAttributes &attributes)
+{
+    const QString quantity = attributes.value("quantity"_L1);
+    const double number = quantity.toDouble();
+    QString sign = quantity;
+    if (number == -1 || number == 0)
+        sign = u"-"_s;
+    else if (number == 1)
+        sign = u"+"_s;
+    return sign + u' ' + attributes.value("name"_L1);
+}
+
+void printTicketRow(PrinterDriver &driver, const QXmlAttributes &attributes, const QString &description)
+{
+    driver.println(driver.descriptionRow(attributes.value("number"_L1), description, QString(), QString(),
+                                         u'.', u"qd"_s));
+}
+
+void printPricedRow(PrinterDriver &driver, const QXmlAttributes &attributes, const QString &description)
+{
+    driver.println(driver.descriptionRow(attributes.value("number"_L1), description,
+                                         attributes.value("price"_L1), attributes.value("totalPrice"_L1),
+                                         u'.', u"qdpt"_s));
+}
+
+} // namespace
+
+void PrinterDriver::printPartialOrder(const QString &element, const QXmlAttributes &attributes)
+{
+    // A ticket has no column titles. They would stand above the order information, and that is a header
+    // section.
+    if (!printSections(element, attributes))
+        printElement(partialOrderElements, *this, element, attributes);
+}
+
+void PrinterDriver::printFullOrder(const QString &element, const QXmlAttributes &attributes)
+{
+    if (!printSections(element, attributes))
+        printElement(fullOrderElements, *this, element, attributes);
+}
+
+void printTicketItem(PrinterDriver &driver, const QXmlAttributes &attributes)
+{
+    driver.setCharSize();
+    printTicketRow(driver, attributes, attributes.value("name"_L1));
+}
+
+void printTicketOtherItem(PrinterDriver &driver, const QXmlAttributes &attributes)
+{
+    driver.setCharSize(1); // lasts for the variants below it
+    printTicketRow(driver, attributes, attributes.value("name"_L1));
+}
+
+void printTicketVariant(PrinterDriver &driver, const QXmlAttributes &attributes)
+{
+    printTicketRow(driver, attributes, variantDescription(attributes));
+}
+
+void printPricedItem(PrinterDriver &driver, const QXmlAttributes &attributes)
+{
+    const QString name = attributes.value("name"_L1);
+    if (name.startsWith(u'='))
+        return; // neither a row nor the titles above it
+    driver.printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
+                              QObject::tr("Amount"));
+    printPricedRow(driver, attributes, name);
+}
+
+void printPricedVariant(PrinterDriver &driver, const QXmlAttributes &attributes)
+{
+    printPricedRow(driver, attributes, variantDescription(attributes));
+}
+
+void printPricedTotal(PrinterDriver &driver, const QXmlAttributes &attributes)
+{
+    driver.println(QString());
+    driver.setBold(); // and not switched off: the total is the last line
+    driver.println(driver.descriptionRow(QString(), QObject::tr("TOTAL"), QString(),
+                                         attributes.value("price"_L1), u'.', u"qdpt"_s));
+}

@@ -1,0 +1,146 @@
+#include "printerdriver.h"
+
+#include "localeoutput.h"
+#include "printmethods.h"
+#include "pvconfiguration.h"
+
+#include <iostream>
+
+using namespace Qt::Literals::StringLiterals;
+
+PrinterDriver::PrinterDriver(const QString &fileName, bool append)
+    : configuration(SyncSingleton<PVConfiguration>::instance()), outputName(fileName),
+      output(std::make_unique<LocaleOutput>(fileName, append)), justification(u"left"_s)
+{
+    if (output->isOpen())
+        return;
+    std::cout << "PrintManager::printAbstractOrder(...): Unable To Open File" << std::endl;
+    output.reset();
+}
+
+PrinterDriver::~PrinterDriver()
+{
+    if (output && !output->close())
+        std::cerr << "palvestrin-print: " << qUtf8Printable(outputName)
+                  << ": not written completely: " << qUtf8Printable(output->errorString()) << std::endl;
+}
+
+bool PrinterDriver::startDocument()
+{
+    reset();
+    return true;
+}
+
+bool PrinterDriver::endDocument()
+{
+    endSection();
+    return true;
+}
+
+bool PrinterDriver::startElement(const QString &, const QString &, const QString &qName,
+                                 const QXmlAttributes &attributes)
+{
+    if (qName == "method"_L1)
+        return chooseMethod(attributes.value("name"_L1));
+    if (const PrintMethod *method = findPrintMethod(currentMethod))
+        (this->*method->print)(qName, attributes);
+    return true;
+}
+
+bool PrinterDriver::endElement(const QString &, const QString &, const QString &)
+{
+    return true;
+}
+
+/// False, which ends the job, when there is no such method.
+bool PrinterDriver::chooseMethod(const QString &name)
+{
+    const PrintMethod *method = findPrintMethod(name);
+    if (!method) {
+        std::cout << "File Format Not Supported" << std::endl;
+        currentMethod.clear();
+        return false;
+    }
+    loadValues(method->kind);
+    currentMethod = name;
+    if (method->duplicate != Duplicate::Unchanged)
+        duplicate = method->duplicate == Duplicate::Yes;
+    startSection();
+    return true;
+}
+
+void PrinterDriver::reset() {}
+
+void PrinterDriver::initPrinter() {}
+
+void PrinterDriver::printRowFiscal(const QString &, const QXmlAttributes &) {}
+
+void PrinterDriver::printRowFiscal(const QString &, const QString &, const QString &, const QString &) {}
+
+void PrinterDriver::printAbstractOrder(const QString &, const QXmlAttributes &) {}
+
+bool PrinterDriver::printDuplicate()
+{
+    return duplicate;
+}
+
+QString PrinterDriver::documentPath(const QString &kind)
+{
+    const QString lowerKind = kind.toLower();
+    for (const DocumentKind &known : documentKinds) {
+        if (lowerKind == known.name)
+            return known.path;
+    }
+    std::cout << "Error into PrinterDriver::documentPath:  " << qUtf8Printable(lowerKind) << std::endl;
+    return u"palvestrin.prefiscaldoc."_s;
+}
+
+void PrinterDriver::loadValues(const QString &kind)
+{
+    docPath = documentPath(kind);
+    documentSettings = DocumentSettings::read(*configuration, docPath);
+    if (documentSettings.paperWidth == 0)
+        documentSettings.paperWidth = static_cast<int>(getPaperWidth());
+}
+
+bool PrinterDriver::oneTime()
+{
+    if (oneTimeDone)
+        return false;
+    oneTimeDone = true;
+    return true;
+}
+
+QString PrinterDriver::documentValue(const QString &setting) const
+{
+    return configuration->getStrValue(docPath + setting);
+}
+
+void PrinterDriver::storePrinter(const QXmlAttributes &attributes)
+{
+    printerName = attributes.value("name"_L1);
+    printerCharSize = attributes.value("charsize"_L1);
+    printerIpAddress = attributes.value("ipaddress"_L1);
+    printerPort = attributes.value("port"_L1);
+}
+
+const PrintMethod *findPrintMethod(const QString &name)
+{
+    for (const PrintMethod &method : printMethods) {
+        if (name == method.name)
+            return &method;
+    }
+    return nullptr;
+}
+
+bool printElement(std::span<const ElementAction> actions, PrinterDriver &driver, const QString &element,
+                  const QXmlAttributes &attributes)
+{
+    for (const ElementAction &action : actions) {
+        if (element == action.element) {
+            action.print(driver, attributes);
+            return true;
+        }
+    }
+    return false;
+}
