@@ -1,0 +1,159 @@
+// The output is in the encoding of the locale: proven with locales that the test makes for itself.
+
+#include "localeoutput.h"
+#include "program.h"
+#include "temporaryhome.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString program = QStringLiteral(PALVESTRIN_PRINT);
+
+/// A job whose one line holds `text`.
+QByteArray jobWith(const QString &text)
+{
+    return uR"(<?xml version="1.0" encoding="UTF-8"?><job><method name="printFullOrderReceipt"/>)"
+           uR"(<notPaid price="%1"/></job>)"_s.arg(text)
+               .toUtf8();
+}
+
+QByteArray paperWith(const QByteArray &bytes)
+{
+    return "\nj\n\"\"@\n\"    Amount not paid: " + bytes + "\"@\nJ\n";
+}
+
+} // namespace
+
+class EncodingTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    const TemporaryHome home;
+    const QString locales = home.filePath(u"locales"_s);
+
+    void makeLocale(const QString &source, const QString &charmap)
+    {
+        QVERIFY(QDir().mkpath(locales));
+        const QString folder = locales + u'/' + source + u'.' + charmap;
+        QProcess localedef;
+        localedef.start(u"localedef"_s, {u"-i"_s, source, u"-f"_s, charmap, folder});
+        QVERIFY(localedef.waitForFinished());
+        QVERIFY2(QFile::exists(folder + u"/LC_CTYPE"_s),
+                 "localedef made no locale: is the package locales there?");
+    }
+    QByteArray read(const QString &name)
+    {
+        QFile file(home.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
+    }
+    ProgramRun print(const QByteArray &job, const QString &out, const QStringList &environment)
+    {
+        QFile file(home.filePath(u"job.xml"_s));
+        if (!file.open(QIODevice::WriteOnly) || file.write(job) != job.size())
+            qFatal("cannot write the job");
+        file.close();
+        return runProgram(program, {u"job.xml"_s, out},
+                          QStringList{u"HOME="_s + home.path(), u"LOCPATH="_s + locales} + environment,
+                          home.path());
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        home.configure("palvestrin: { };");
+        makeLocale(u"it_IT"_s, u"ISO-8859-15"_s);
+        makeLocale(u"it_IT"_s, u"UTF-8"_s);
+        makeLocale(u"ja_JP"_s, u"EUC-JP"_s);
+    }
+
+    void encodings_data()
+    {
+        QTest::addColumn<QString>("variable");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArray>("bytes");
+        const QString text = u"caffè 5 € œ"_s;
+        const QByteArray latin9("caff\xe8 5 \xa4 \xbd");
+        QTest::newRow("latin-9") << u"LC_ALL=it_IT.ISO-8859-15"_s << text << latin9;
+        QTest::newRow("latin-9 by LC_CTYPE") << u"LC_CTYPE=it_IT.ISO-8859-15"_s << text << latin9;
+        QTest::newRow("latin-9 by LANG") << u"LANG=it_IT.ISO-8859-15"_s << text << latin9;
+        QTest::newRow("utf-8") << u"LC_ALL=it_IT.UTF-8"_s << text << text.toUtf8();
+        QTest::newRow("posix") << u"LC_ALL=POSIX"_s << text << text.toUtf8();
+        QTest::newRow("c") << u"LC_ALL=C"_s << text << text.toUtf8();
+        QTest::newRow("none") << u"UNRELATED=1"_s << text << text.toUtf8();
+        QTest::newRow("not installed") << u"LC_ALL=fr_FR.ISO-8859-1"_s << text << text.toUtf8();
+        QTest::newRow("euc-jp") << u"LC_ALL=ja_JP.EUC-JP"_s << u"寿司"_s << QByteArray("\xbc\xf7\xbb\xca");
+        QTest::newRow("missing characters")
+            << u"LC_ALL=it_IT.ISO-8859-15"_s << u"寿司 \U0001F355 è"_s << QByteArray("?? ? \xe8");
+        QTest::newRow("outside the basic plane")
+            << u"LC_ALL=it_IT.UTF-8"_s << u"\U0001F355"_s << QByteArray("\xf0\x9f\x8d\x95");
+    }
+    void encodings()
+    {
+        QFETCH(QString, variable);
+        QFETCH(QString, text);
+        QFETCH(QByteArray, bytes);
+        const ProgramRun result = print(jobWith(text), u"out"_s, {variable});
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardOutput, QByteArray());
+        QCOMPARE(result.standardError, QByteArray());
+        QCOMPARE(read(u"out"_s), paperWith(bytes));
+    }
+
+    void theLastVariableOfTheStandardDecides()
+    {
+        print(jobWith(u"è"_s), u"out"_s, {u"LANG=it_IT.UTF-8"_s, u"LC_CTYPE=it_IT.ISO-8859-15"_s});
+        QCOMPARE(read(u"out"_s), paperWith("\xe8"));
+        print(jobWith(u"è"_s), u"out"_s, {u"LC_CTYPE=it_IT.ISO-8859-15"_s, u"LC_ALL=it_IT.UTF-8"_s});
+        QCOMPARE(read(u"out"_s), paperWith("\xc3\xa8"));
+    }
+
+    void fileNamesAreInTheEncodingOfTheLocaleToo()
+    {
+        // QProcess hands over UTF-8, so a shell types the name.
+        const QByteArray script =
+            "exec \"$PROGRAM\" \"$(printf 'conto-\\350.xml')\" \"$(printf 'stampa-\\350')\"";
+        const QByteArray folder = home.path().toUtf8() + "/";
+        QFile job(home.filePath(u"plain.xml"_s));
+        QVERIFY(job.open(QIODevice::WriteOnly));
+        job.write(jobWith(u"è"_s));
+        job.close();
+        QVERIFY(rename((folder + "plain.xml").constData(), (folder + "conto-\xe8.xml").constData()) == 0);
+        const ProgramRun result = runProgram(u"/bin/sh"_s, {u"-c"_s, QString::fromLatin1(script)},
+                                             {u"HOME="_s + home.path(), u"LOCPATH="_s + locales,
+                                              u"PROGRAM="_s + program, u"LC_ALL=it_IT.ISO-8859-15"_s},
+                                             home.path());
+        QCOMPARE(result.standardOutput + result.standardError, QByteArray());
+        QVERIFY(rename((folder + "stampa-\xe8").constData(), (folder + "stampa").constData()) == 0);
+        QCOMPARE(read(u"stampa"_s), paperWith("\xe8"));
+        QVERIFY(unlink((folder + "conto-\xe8.xml").constData()) == 0);
+    }
+
+    void appending()
+    {
+        const QString path = home.filePath(u"appended"_s);
+        for (const bool append : {false, true, true}) {
+            LocaleOutput output(path, append);
+            output << u"line\n"_s;
+            QVERIFY(output.close());
+        }
+        QCOMPARE(read(u"appended"_s), QByteArray("line\nline\nline\n"));
+        LocaleOutput(path, false).close();
+        QCOMPARE(read(u"appended"_s), QByteArray());
+    }
+
+    void aFullDiskIsNoticed()
+    {
+        LocaleOutput output(u"/dev/full"_s, false);
+        QVERIFY(output.isOpen());
+        output << u"line\n"_s; // only buffered
+        QVERIFY(!output.close());
+        QCOMPARE(output.errorString(), u"No space left on device"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(EncodingTest)
+#include "encoding_test.moc"
