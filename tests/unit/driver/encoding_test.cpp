@@ -111,6 +111,14 @@ private Q_SLOTS:
         QCOMPARE(read(u"out"_s), paperWith("\xc3\xa8"));
     }
 
+    void theDecimalSeparatorIsAPointInEveryLocale()
+    {
+        const QByteArray job =
+            R"(<job><method name="printFullOrderFiscal"/><receipe name="T" price="12,345"/></job>)";
+        print(job, u"out"_s, {u"LC_ALL=it_IT.ISO-8859-15"_s});
+        QCOMPARE(read(u"out"_s), QByteArray("\n\"T\"*1234.5HR\r\n"));
+    }
+
     void fileNamesAreInTheEncodingOfTheLocaleToo()
     {
         // QProcess hands over UTF-8, so a shell types the name.

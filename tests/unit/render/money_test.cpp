@@ -109,8 +109,8 @@ private Q_SLOTS:
             {u"1e-320", u"9.99988867182683e-319"},
             {u"0", u"0"},
             {u"0.00", u"0"},
-            {u"-0", u"0"},
-            {u"-0.00", u"0"},
+            {u"-0", u"-0"},
+            {u"-0.00", u"-0"},
         };
         for (const auto &[text, cents] : rows)
             QTest::newRow(qPrintable(u'"' + QString::fromUtf16(text) + u'"'))
@@ -121,6 +121,13 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(QString, cents);
         QCOMPARE(money::toCents(text), cents);
+    }
+
+    void theExactHalfIsRoundedToEven()
+    {
+        QCOMPARE(money::format(112456675173314.5), u"112456675173314"_s);
+        QCOMPARE(money::format(112456675173315.5), u"112456675173316"_s);
+        QCOMPARE(money::format(4803558647363.125), u"4803558647363.12"_s);
     }
 
     void formattingKeepsFifteenDigits()
