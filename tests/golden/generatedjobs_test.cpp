@@ -1,4 +1,4 @@
-#include "rendererrun.h"
+#include "program.h"
 #include "temporaryhome.h"
 #include "visiblediff.h"
 #include "wholefile.h"
@@ -64,8 +64,9 @@ private Q_SLOTS:
         home.configure(configuration);
         const QString output = home.filePath(u"output"_s);
         writeFile(home.filePath(u"job.xml"_s), job);
-        const RendererRun run =
-            runRenderer({home.filePath(u"job.xml"_s), output}, bareEnvironment(home.path()));
+        const ProgramRun run =
+            runProgram(QStringLiteral(PALVESTRIN_PRINT), {home.filePath(u"job.xml"_s), output},
+                       bareEnvironment(home.path()));
         QVERIFY2(run.failure.isEmpty(), qPrintable(run.failure));
         QCOMPARE(run.standardOutput + run.standardError, QByteArray());
         const QByteArray diff = visibleDiff(paper, contentOf(output));

@@ -1,4 +1,4 @@
-#include "rendererrun.h"
+#include "program.h"
 #include "temporaryhome.h"
 #include "visiblediff.h"
 #include "wholefile.h"
@@ -30,6 +30,11 @@ public:
         const QString own = filePath(u"palvestrin.conf"_s);
         return QFile::exists(own) ? own : folder.filePath(u"../palvestrin.conf"_s);
     }
+    /// The configuration, with the folder of the built catalogues where it says @CATALOGUES@.
+    QByteArray configuration() const
+    {
+        return contentOf(configurationPath()).replace("@CATALOGUES@", CATALOGUE_FOLDER);
+    }
     /// What is wrong with the folder itself; empty when nothing is. A missing expectation is no defect while
     /// expectations are being written.
     QString defect() const
@@ -43,15 +48,13 @@ public:
         const QStringList unknown = unknownFiles();
         return unknown.isEmpty() ? QString() : u"no run looks at "_s + unknown.join(u", "_s);
     }
-    QProcessEnvironment environment(const QString &home) const
+    QStringList environment(const QString &home) const
     {
-        QProcessEnvironment environment = bareEnvironment(home);
+        QStringList environment = bareEnvironment(home);
         if (!has(u"environment"_s))
             return environment;
-        for (const QString &line :
-             QString::fromUtf8(contentOf(filePath(u"environment"_s))).split(u'\n', Qt::SkipEmptyParts))
-            environment.insert(line.section(u'=', 0, 0), line.section(u'=', 1));
-        return environment;
+        return environment +
+               QString::fromUtf8(contentOf(filePath(u"environment"_s))).split(u'\n', Qt::SkipEmptyParts);
     }
     /// The prescribed standard output, with `home` where the file says @HOME@.
     QByteArray expectedStandardOutput(const QString &home) const
@@ -65,10 +68,11 @@ public:
     void update(const QByteArray &output, const QByteArray &standardOutput) const
     {
         rewrite(u"expected.out"_s, output);
-        if (!standardOutput.isEmpty())
+        if (!standardOutput.isEmpty()) {
             rewrite(u"expected.stdout"_s, standardOutput);
-        else if (QFile::remove(filePath(u"expected.stdout"_s)))
+        } else if (QFile::remove(filePath(u"expected.stdout"_s))) {
             qInfo("removed %s", qPrintable(filePath(u"expected.stdout"_s)));
+        }
     }
 
 private:
@@ -132,12 +136,13 @@ private Q_SLOTS:
 
         const TemporaryHome home;
         if (!golden.has(u"no-configuration"_s))
-            home.configure(contentOf(golden.configurationPath()));
+            home.configure(golden.configuration());
         const QString output = home.filePath(u"output"_s);
         writeFile(output, "what an earlier job left here\n");
 
-        const RendererRun run =
-            runRenderer({golden.filePath(u"job.xml"_s), output}, golden.environment(home.path()));
+        const ProgramRun run =
+            runProgram(QStringLiteral(PALVESTRIN_PRINT), {golden.filePath(u"job.xml"_s), output},
+                       golden.environment(home.path()));
 
         QVERIFY2(run.failure.isEmpty(), qPrintable(run.failure));
         QVERIFY2(run.standardError.isEmpty(), "standard error: " + visible(run.standardError));
