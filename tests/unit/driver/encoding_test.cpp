@@ -64,11 +64,14 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        home.configure("palvestrin: { };");
         makeLocale(u"it_IT"_s, u"ISO-8859-15"_s);
         makeLocale(u"it_IT"_s, u"UTF-8"_s);
         makeLocale(u"ja_JP"_s, u"EUC-JP"_s);
+        makeLocale(u"fr_FR"_s, u"ISO-8859-15"_s);
+        makeLocale(u"de_DE"_s, u"UTF-8"_s);
     }
+
+    void init() { home.configure("palvestrin: { };"); }
 
     void encodings_data()
     {
@@ -101,6 +104,48 @@ private Q_SLOTS:
         QCOMPARE(result.standardOutput, QByteArray());
         QCOMPARE(result.standardError, QByteArray());
         QCOMPARE(read(u"out"_s), paperWith(bytes));
+    }
+
+    /// A receipt in the language of the house and in the alphabet of its printer.
+    void languages_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("french, latin-9") << u"fr_FR.ISO-8859-15"_s << u"Œufs à 3 €"_s
+                                         << QByteArray("\nj\n"
+                                                       "\" Re\xe7u n\xb0 : 7\"@\n"
+                                                       "\"========================================\"@\n"
+                                                       "\"Qt\xe9 D\xe9signation             Prix Montant\"@\n"
+                                                       "\"  2 x \xbc"
+                                                       "ufs \xe0 3 \xa4............3,00    6,00\"@\n"
+                                                       "\"\"@\n"
+                                                       "\"    Reste \xe0 payer : 1,00 \xa4\"@\nJ\n");
+        QTest::newRow("german, utf-8")
+            << u"de_DE.UTF-8"_s << u"Käsespätzle für 3 €"_s
+            << QByteArray("\nj\n"
+                          "\" Beleg-Nr.: 7\"@\n"
+                          "\"========================================\"@\n"
+                          "\"Anz Bezeichnung            Preis  Betrag\"@\n"
+                          "\"  2 x K\xc3\xa4sesp\xc3\xa4tzle f\xc3\xbcr 3 ....3,00    6,00\"@\n"
+                          "\"\"@\n"
+                          "\"    Nicht bezahlt: 1,00 \xe2\x82\xac\"@\nJ\n");
+    }
+    void languages()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, item);
+        home.configure("palvestrin: {"
+                       " language: { basedir = " CATALOGUE_FOLDER "; file = /; };"
+                       " receiptdoc: { quantityFieldWidth = 3; priceFieldWidth = 8; totalPriceFieldWidth = 8;"
+                       "   paperWidth = 40; };"
+                       "};");
+        const QString job = uR"(<job><method name="printFullOrderReceipt"/><receipt serialnumber="7"/>)"
+                            uR"(<receipe number="2" name="%1" price="3,00" totalPrice="6,00"/>)"
+                            uR"(<notPaid price="1,00 €"/></job>)"_s.arg(item);
+        const ProgramRun result = print(job.toUtf8(), u"out"_s, {u"LC_ALL="_s + locale});
+        QCOMPARE(result.standardOutput + result.standardError, QByteArray());
+        QTEST(read(u"out"_s), "bytes");
     }
 
     void theLastVariableOfTheStandardDecides()
