@@ -9,6 +9,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QSqlTableModel>
 #include <QVariant>
 
@@ -45,6 +46,13 @@ QSqlDatabase *addDatabase(const QString &driver, const QString &connectionName)
     QSqlDatabase::removeDatabase(connectionName);
     *db = QSqlDatabase::addDatabase(driver, connectionName);
     return db->isValid() ? db : nullptr;
+}
+
+/// Whether `db` is a connection that cannot take a statement. The toolkit would warn on standard error,
+/// report no error, and for a handle that was emptied take the default connection.
+bool isClosed(const QSqlDatabase *db)
+{
+    return db && !db->isOpen();
 }
 
 /// The toolkit's own text of a value, but for fractions: it would give them 17 digits.
@@ -86,8 +94,7 @@ QSqlDatabase *DatabaseManager::createConnection(const QString &driver, const QSt
 
 void DatabaseManager::showQueryError(const QString &method, QSqlQuery &query)
 {
-    debug(u"Query called from method "_s + method + u": "_s + query.lastQuery());
-    debug(u"    numRowsAffected: "_s + QString::number(query.numRowsAffected()));
+    showQuery(method, query.lastQuery(), query.numRowsAffected());
     if (query.lastError().type() != QSqlError::NoError)
         showFailure(method, u"query: "_s + query.lastQuery(), query.lastError().databaseText());
 }
@@ -146,8 +153,9 @@ QStringList DatabaseManager::executeSelectQuery3(const QString &sql, int columns
     QSqlQuery query = run(u"executeSelectQuery(...)"_s, sql, db);
     QStringList fields;
     if (query.next()) {
+        const int present = query.record().count();
         for (int column = 0; column < columns; ++column)
-            fields << columnText(query, column);
+            fields << (column < present ? columnText(query, column) : QString());
     }
     return fields;
 }
@@ -160,7 +168,8 @@ int DatabaseManager::executeQuery(const QString &sql, QSqlDatabase *db)
 void DatabaseManager::begin(QSqlDatabase *db)
 {
     if (db) {
-        db->transaction();
+        if (!isClosed(db))
+            db->transaction();
     } else {
         executeQuery(u"BEGIN"_s, nullptr);
     }
@@ -170,7 +179,8 @@ void DatabaseManager::begin(QSqlDatabase *db)
 void DatabaseManager::commit(QSqlDatabase *db)
 {
     if (db) {
-        db->commit();
+        if (!isClosed(db))
+            db->commit();
     } else {
         executeQuery(u"COMMIT"_s, nullptr);
     }
@@ -180,7 +190,8 @@ void DatabaseManager::commit(QSqlDatabase *db)
 void DatabaseManager::rollback(QSqlDatabase *db)
 {
     if (db) {
-        db->rollback();
+        if (!isClosed(db))
+            db->rollback();
     } else {
         executeQuery(u"ROLLBACK"_s, nullptr);
     }
@@ -217,10 +228,11 @@ bool DatabaseManager::decrementSequenceIfPositive(const QString &sequence, int s
 
 QString DatabaseManager::getLastId(const QString &table, QSqlDatabase *db)
 {
-    QSqlQuery query = run(u"getLastId"_s, u"select max(ID) from "_s + table, db);
+    const QString sql = u"select max(ID) from "_s + table;
+    QSqlQuery query = run(u"getLastId"_s, sql, db);
     if (query.next())
         return columnText(query, 0);
-    error(u"getLastId( "_s + table + u" ): "_s + query.lastQuery() + u" return empty result"_s);
+    error(u"getLastId( "_s + table + u" ): "_s + sql + u" return empty result"_s);
     return u"Error"_s;
 }
 
@@ -250,22 +262,28 @@ void DatabaseManager::error(const QString &message)
         log->write(Logger::ERROR, message);
 }
 
+void DatabaseManager::showQuery(const QString &method, const QString &sql, int rows)
+{
+    debug(u"Query called from method "_s + method + u": "_s + sql);
+    debug(u"    numRowsAffected: "_s + QString::number(rows));
+}
+
 void DatabaseManager::showFailure(const QString &method, const QString &object, const QString &cause)
 {
     error(u"Error in the method "_s + method + u", to "_s + object);
     error(cause);
 }
 
-/// Runs one statement and logs it. On a closed connection the toolkit runs nothing and leaves the query
-/// inactive without an error; whoever reads the log must see one.
+/// Runs one statement and logs it.
 QSqlQuery DatabaseManager::run(const QString &method, const QString &sql, QSqlDatabase *db)
 {
+    if (isClosed(db)) {
+        showQuery(method, sql, -1);
+        showFailure(method, u"query: "_s + sql, u"not run: connection closed"_s);
+        return QSqlQuery(*db);
+    }
     QSqlQuery query(sql, db ? *db : QSqlDatabase());
     showQueryError(method, query);
-    if (!query.isActive() && query.lastError().type() == QSqlError::NoError) {
-        showFailure(method, u"query: "_s + query.lastQuery(),
-                    u"not run: connection closed or statement empty"_s);
-    }
     return query;
 }
 

@@ -22,6 +22,9 @@ class QSqlTableModel;
 /// `db` is the connection to use; null means the toolkit's default connection. A connection belongs to the
 /// thread that made it. Tables have a primary key column named ID.
 ///
+/// The server's own notices, such as a ROLLBACK outside a transaction, go to standard error by the server's
+/// library.
+///
 /// Nothing is thrown. A statement that fails is logged at level ERROR and gives what an empty result gives.
 /// Columns are read as text. A null is "" in a column of text and "0" in a column of numbers; fractions and
 /// numeric columns have up to 15 digits.
@@ -97,6 +100,7 @@ public:
 private:
     void debug(const QString &message);
     void error(const QString &message);
+    void showQuery(const QString &method, const QString &sql, int rows);
     void showFailure(const QString &method, const QString &object, const QString &cause);
     QSqlQuery run(const QString &method, const QString &sql, QSqlDatabase *db);
     QString stepSequence(const QString &sequence, qint64 step, QSqlDatabase *db);

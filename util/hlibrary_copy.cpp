@@ -3,12 +3,22 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QMessageBox>
 
 #include <array>
+#include <sys/stat.h>
 
 namespace {
+
+/// Whether both names lead to one regular file, by links too. A pipe or a device may well be both.
+bool isSameFile(const QString &one, const QString &other)
+{
+    struct stat first = {};
+    struct stat second = {};
+    return stat(QFile::encodeName(one).constData(), &first) == 0 &&
+           stat(QFile::encodeName(other).constData(), &second) == 0 && S_ISREG(first.st_mode) &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
 
 /// The two files of a copy and the pieces that go from one to the other.
 class PieceCopy
@@ -20,7 +30,7 @@ public:
     /// be emptied before it is read.
     bool open()
     {
-        return QFileInfo(source) != QFileInfo(target) && source.open(QIODevice::ReadOnly) &&
+        return !isSameFile(source.fileName(), target.fileName()) && source.open(QIODevice::ReadOnly) &&
                target.open(QIODevice::WriteOnly);
     }
     /// Also true after a read error. Looks at the next byte, because not every file tells its size.

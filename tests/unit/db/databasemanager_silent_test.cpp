@@ -69,6 +69,13 @@ private Q_SLOTS:
         cursor.setFilter(u"nonsense"_s);
         QVERIFY(!cursor.select());
         manager.showCursorError(u"mine"_s, cursor);
+        QCOMPARE(manager.executeSelectQuery3(u"select 1"_s, 3, db),
+                 (QStringList{u"1"_s, QString(), QString()}));
+        db->close();
+        QCOMPARE(manager.executeQuery(u"select 1"_s, db), -1);
+        QCOMPARE(manager.safeNewRecord(u"orders"_s, db), u"Error"_s);
+        manager.begin(db);
+        manager.rollback(db);
         QVERIFY(!SyncSingleton<HLogManager>::instance()->getLog(QString()));
         QCOMPARE(output.bytes(), QByteArray());
     }

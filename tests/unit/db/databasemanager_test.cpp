@@ -30,6 +30,12 @@ QString failureLines(const QString &method, const QString &sql, const QString &c
            u", to query: "_s + sql + u"\n[time] ERROR: "_s + cause + u'\n';
 }
 
+/// The log of a statement on a closed connection.
+QString notRunLines(const QString &method, const QString &sql)
+{
+    return failureLines(method, sql, u"not run: connection closed"_s);
+}
+
 constexpr char begin[] = "[time] DEBUG: BEGIN\n\n\n";
 constexpr char commit[] = "[time] DEBUG: COMMIT\n\n\n";
 constexpr char rollback[] = "[time] DEBUG: ROLLBACK\n\n\n";
@@ -199,6 +205,12 @@ private Q_SLOTS:
     {
         QCOMPARE(manager->getField(u"menu"_s, u"price"_s, u"2"_s, db), u"0.3"_s);
         QCOMPARE(manager->executeSelectQuery(u"select 4.35::float8 * 100"_s, db), u"435"_s);
+        QCOMPARE(manager->executeSelectQuery(u"select 12.50"_s, db), u"12.5"_s);
+        QCOMPARE(manager->executeSelectQuery(u"select 0.00001"_s, db), u"1e-05"_s);
+        QCOMPARE(manager->executeSelectQuery(u"select 12345678901234567890"_s, db),
+                 u"1.23456789012346e+19"_s);
+        QCOMPARE(manager->executeSelectQuery(u"select 12345678901234567890::text"_s, db),
+                 u"12345678901234567890"_s);
     }
 
     void existRecord()
@@ -283,11 +295,10 @@ private Q_SLOTS:
                                      "DETAIL:  Key (id)=(1) already exists.\n(23505)"_s));
     }
 
-    void anEmptyStatementIsAFailure()
+    void anEmptyStatementRunsNothing()
     {
         QCOMPARE(manager->executeQuery(QString(), db), -1);
-        QCOMPARE(log(), failureLines(u"executeQuery(...)"_s, u""_s,
-                                     u"not run: connection closed or statement empty"_s));
+        QCOMPARE(log(), queryLines(u"executeQuery(...)"_s, u""_s, -1)); // the toolkit knows of no error
     }
 
     void removeRecord()
@@ -523,8 +534,8 @@ private Q_SLOTS:
                                      "\tThis probably means the server terminated abnormally\n"
                                      "\tbefore or while processing the request.\n(57P01)"_s));
         QCOMPARE(manager->numRecords(u"menu"_s, u"true"_s, db), -1); // and again, now known to be lost
-        QCOMPARE(log(), failureLines(u"DatabaseManager::existRecord(...)"_s, sql,
-                                     u"not run: connection closed or statement empty"_s));
+        QCOMPARE(log(),
+                 failureLines(u"DatabaseManager::existRecord(...)"_s, sql, u"not run: connection closed"_s));
         manager->begin(db);
         QCOMPARE(log(), text(begin));
         manager->commit(db);
@@ -532,7 +543,28 @@ private Q_SLOTS:
         manager->rollback(db);
         QCOMPARE(log(), text(rollback));
         QCOMPARE(manager->getLastId(u"menu"_s, db), u"Error"_s);
+        QCOMPARE(log(),
+                 notRunLines(u"getLastId"_s, u"select max(ID) from menu"_s) +
+                     u"[time] ERROR: getLastId( menu ): select max(ID) from menu return empty result\n"_s);
         QCOMPARE(manager->safeNewRecord(u"orders"_s, db), u"Error"_s);
+        QCOMPARE(
+            log(),
+            text(begin) + notRunLines(u"newRecord"_s, u"insert into orders values(default)"_s) +
+                notRunLines(u"getLastId"_s, u"select max(ID) from orders"_s) +
+                u"[time] ERROR: getLastId( orders ): select max(ID) from orders return empty result\n"_s +
+                text(commit));
+    }
+
+    void anEmptiedHandleIsNotTheDefaultConnection()
+    {
+        QVERIFY(connect(QString())); // the default connection is open
+        QSqlDatabase *removed = connect(u"removed"_s);
+        *removed = QSqlDatabase();
+        QSqlDatabase::removeDatabase(u"removed"_s);
+        log();
+        QCOMPARE(manager->removeRecord(u"menu"_s, u"1"_s, removed), -1);
+        QCOMPARE(log(), notRunLines(u"removeRecord"_s, u"delete from menu where ID = 1"_s));
+        QVERIFY(manager->existRecord(u"menu"_s, u"1"_s, db));
     }
 
     void aServerStoppedInATransaction()
@@ -540,10 +572,16 @@ private Q_SLOTS:
         manager->begin(db);
         QCOMPARE(manager->removeRecord(u"menu"_s, u"1"_s, db), 1);
         server.stop();
+        log();
         QCOMPARE(manager->removeRecord(u"menu"_s, u"2"_s, db), -1);
+        QCOMPARE(log(), failureLines(u"removeRecord"_s, u"delete from menu where ID = 2"_s,
+                                     u"server closed the connection unexpectedly\n"
+                                     "\tThis probably means the server terminated abnormally\n"
+                                     "\tbefore or while processing the request.\n()"_s));
         manager->commit(db);
+        QCOMPARE(log(), text(commit));
         QVERIFY(!connect(u"second"_s));
-        QVERIFY(log().contains(u"[time] ERROR: Failed to open database: QPSQL: Unable to connect\n"_s));
+        QVERIFY(log().startsWith(u"[time] ERROR: Failed to open database: QPSQL: Unable to connect\n"_s));
         server.start();
         QVERIFY(connect(u"shop"_s));
         QCOMPARE(manager->executeSelectQuery2(u"select ID from menu order by ID"_s, db),

@@ -11,6 +11,8 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <unistd.h>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -303,6 +305,17 @@ private Q_SLOTS:
         QVERIFY(!HLibrary::copy(target, source, 5, 0, 0));
         QCOMPARE(copied(), lines(1, 3));
     }
+
+    void aHardLinkIsTheSameFileToo()
+    {
+        write(lines(1, 3));
+        QFile::remove(target);
+        QVERIFY(link(QFile::encodeName(source).constData(), QFile::encodeName(target).constData()) == 0);
+        QVERIFY(!HLibrary::copy(source, target, 0, 0));
+        QCOMPARE(copied(), lines(1, 3));
+    }
+
+    void aDeviceMayBeBoth() { QVERIFY(HLibrary::copy(u"/dev/null"_s, u"/dev/null"_s, 0, 0)); }
 
     void aFileThatDoesNotTellItsSize()
     {
