@@ -67,7 +67,7 @@ void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
     print(0, u"\"@\n"_s);
     if (justification == "center"_L1) {
         // From the width of the device, not of the document, and with the quotes counted: a little off the
-        // middle, as it always was. A line too long to centre gets no blanks.
+        // middle, and relied upon as it is. A line too long to centre gets no blanks.
         const qsizetype room = static_cast<int>(getPaperWidth()) - columns::length(lineBuffer) + 7;
         lineBuffer.insert(1, QString(qMax<qsizetype>(0, room) / 2, u' '));
     }

@@ -41,7 +41,7 @@ public:
     void printRowFiscal(const QString &department, const QString &quantity, const QString &description,
                         const QString &price) override;
     void printLogo() override;
-    /// One sale with a price modifier, such as "-10" for ten per cent off. For register tools of the family;
+    /// One sale with a price modifier, such as "-10" for ten per cent off. Offered to other programs;
     /// no print method calls it.
     virtual void printRowFiscal(const QString &department, const QString &quantity,
                                 const QString &description, const QString &price, const QString &modifier);

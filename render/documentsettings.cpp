@@ -6,7 +6,7 @@ using namespace Qt::Literals::StringLiterals;
 
 DocumentSettings DocumentSettings::read(const PVConfiguration &configuration, const QString &docPath)
 {
-    // A "style" key stands in configurations too; it never chose a layout, so nothing reads it.
+    // A "style" key stands in configurations too. It has no effect, so nothing reads it.
     DocumentSettings settings;
     for (const IntegerSetting &setting : integerSettings)
         settings.*setting.member = configuration.getStrValue(docPath + setting.key).toInt();

@@ -1,5 +1,5 @@
-// The commands of the cash register. A sale ends with CR LF, a closing command with LF alone: the register
-// expects both so.
+// The commands of the cash register. A sale ends with CR LF, a closing command with LF alone. Both are relied
+// upon as they are.
 
 #include "companyprinterdriver.h"
 #include "money.h"
@@ -55,11 +55,11 @@ void CompanyPrinterDriver::printRowFiscal(const QString &name, const QXmlAttribu
     const QString cheque = money::toCents(attributes.value("cheque"_L1));
     const QString notPaid = money::toCents(attributes.value("notPaid"_L1));
     // Only what is left unpaid is taken off. The cash line carries the whole paid total even when card or
-    // cheque lines follow: registers in the field are set up for that.
+    // cheque lines follow. That is relied upon.
     const QString cash = money::format(price.toDouble() - notPaid.toDouble());
 
     if (!isZero(discount))
-        write(u'=' + discount + "* 2M\n"_L1); // the register expects the blank
+        write(u'=' + discount + "* 2M\n"_L1); // the blank belongs to the command
     if (!isZero(cash))
         write(cash + "H1T\n"_L1);
     if (!isZero(creditCard))

@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// The lines of an address stand in one attribute, between commas. An empty one ends the list, even in the
-/// middle: ordering applications end addresses so.
+/// middle.
 void printAddress(PrinterDriver &driver, const QString &address)
 {
     for (const QStringView line : QStringTokenizer(address, u',')) {

@@ -2,6 +2,9 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace money {
 
@@ -17,6 +20,8 @@ QString format(double value)
     // 434.99999999999994. By the standard library, because QString::number rounds the exact half up where
     // "%.15g" rounds it to even; and not by printf, whose decimal separator is the locale's.
     constexpr int significantDigits = 15;
+    if (std::isnan(value))
+        return u"nan"_s; // without the sign that a difference of infinities leaves on it
     std::array<char, 32> text;
     const auto [end, error] =
         std::to_chars(text.begin(), text.end(), value, std::chars_format::general, significantDigits);

@@ -121,8 +121,8 @@ void printReceiptsSummary(PrinterDriver &driver, const QXmlAttributes &attribute
 
 void printTaxRateRow(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
-    // The percent sign makes the row one character wider than its header, and a blank ends it: both stay,
-    // existing paper looks so.
+    // The percent sign makes the row one character wider than its header, and a blank ends it: both stay
+    // as they are.
     driver.println(right(attributes.value("taxrate"_L1), rateWidth) + "% "_L1 +
                    right(attributes.value("taxable"_L1), amountWidth) + u' ' +
                    right(attributes.value("tax"_L1), amountWidth) + u' ' +

@@ -92,6 +92,11 @@ private Q_SLOTS:
 
     void whatIsNoNumberIsSent() { QCOMPARE(closing({{u"price"_s, u"nan"_s}}), QByteArray("nanH1T\n")); }
 
+    void aDifferenceOfInfinitiesHasNoSign()
+    {
+        QCOMPARE(closing({{u"price"_s, u"inf"_s}, {u"notPaid"_s, u"inf"_s}}), QByteArray("nanH1T\ninfH5T\n"));
+    }
+
     void nothingWithoutAmounts() { QCOMPARE(closing({}), QByteArray()); }
 
     void onlyATotalCloses() { QCOMPARE(closing({{u"price"_s, u"12.00"_s}}, u"Total"_s), QByteArray()); }
