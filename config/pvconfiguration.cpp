@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -9,7 +11,9 @@ namespace {
 /// Keys and values are 8-bit text: a character outside Latin-1 becomes '?'.
 QString asLatin1(const QString &text)
 {
-    return QString::fromLatin1(text.toLatin1());
+    const bool isLatin1 =
+        std::all_of(text.begin(), text.end(), [](QChar character) { return character <= u'\xff'; });
+    return isLatin1 ? text : QString::fromLatin1(text.toLatin1());
 }
 
 } // namespace

@@ -62,6 +62,8 @@ public:
 private:
     enum class End { Brace, File };
 
+    /// The next byte of the file; false when there is none.
+    bool get(char &c);
     /// Reads items into `element` until its closing brace or the end of the file. The element joins `parent`
     /// with its first item, so an empty block leaves no trace.
     End readItems(QDomElement element, QDomNode parent);
