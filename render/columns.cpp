@@ -9,11 +9,21 @@ bool isPairAt(QStringView text, qsizetype index)
     return text[index].isHighSurrogate() && index + 1 < text.size() && text[index + 1].isLowSurrogate();
 }
 
-qsizetype missing(const QString &text, int width)
+qsizetype missing(QStringView text, int width)
 {
     if (width < 0 || width > maxWidth)
         return 0;
     return qMax<qsizetype>(0, width - length(text));
+}
+
+QStringView firstCharacters(QStringView text, int width)
+{
+    if (width < 0 || width >= text.size())
+        return text;
+    qsizetype units = 0;
+    for (int characters = 0; characters < width && units < text.size(); ++characters)
+        units += isPairAt(text, units) ? 2 : 1;
+    return text.first(units);
 }
 
 } // namespace
@@ -31,22 +41,42 @@ qsizetype length(QStringView text)
 
 QString leftJustified(const QString &text, int width, QChar fill)
 {
-    return text + QString(missing(text, width), fill);
+    return Row().leftJustified(text, width, fill).toString();
 }
 
 QString rightJustified(const QString &text, int width, QChar fill)
 {
-    return QString(missing(text, width), fill) + text;
+    return Row().rightJustified(text, width, fill).toString();
 }
 
 QString cut(const QString &text, int width)
 {
-    if (width < 0 || width >= text.size())
-        return text;
-    qsizetype units = 0;
-    for (int characters = 0; characters < width && units < text.size(); ++characters)
-        units += isPairAt(text, units) ? 2 : 1;
-    return text.left(units);
+    return firstCharacters(text, width).toString();
+}
+
+Row &Row::text(QStringView piece)
+{
+    row += piece;
+    return *this;
+}
+
+Row &Row::leftJustified(QStringView piece, int width, QChar fill)
+{
+    row += piece;
+    row.resize(row.size() + missing(piece, width), fill);
+    return *this;
+}
+
+Row &Row::rightJustified(QStringView piece, int width, QChar fill)
+{
+    row.resize(row.size() + missing(piece, width), fill);
+    row += piece;
+    return *this;
+}
+
+Row &Row::cut(QStringView piece, int width, QChar fill)
+{
+    return leftJustified(firstCharacters(piece, width), width, fill);
 }
 
 } // namespace columns

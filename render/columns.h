@@ -25,4 +25,26 @@ QString rightJustified(const QString &text, int width, QChar fill);
 /// The first `width` characters of `text`.
 QString cut(const QString &text, int width);
 
+/// A row in the making: each call adds a piece behind the pieces before it.
+///
+/// The pieces go straight into one text, because a row is made for every item of a job.
+class Row
+{
+public:
+    Row() { row.reserve(usualLength); }
+
+    Row &text(QStringView piece);
+    Row &leftJustified(QStringView piece, int width, QChar fill);
+    Row &rightJustified(QStringView piece, int width, QChar fill);
+    /// The first `width` characters of `piece`, and `fill` where it is shorter.
+    Row &cut(QStringView piece, int width, QChar fill);
+
+    QString toString() const { return row; }
+
+private:
+    static constexpr qsizetype usualLength = 64; ///< a longer row costs one more allocation, and no more
+
+    QString row;
+};
+
 } // namespace columns

@@ -56,9 +56,11 @@ void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
 {
     // A rule of the device, for labels and names alike: the word "TOTALE" never reaches the paper. It is
     // applied to each text on its own, so a word put together from two of them gets through.
-    QString printed = text;
-    printed.replace("TOTALE"_L1, "SOMMA"_L1);
-    lineBuffer += QString(indent, u' ') + printed;
+    lineBuffer.resize(lineBuffer.size() + indent, u' ');
+    if (text.contains(u"TOTALE"))
+        lineBuffer += QString(text).replace("TOTALE"_L1, "SOMMA"_L1);
+    else
+        lineBuffer += text;
 }
 
 void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
@@ -72,7 +74,8 @@ void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
         lineBuffer.insert(1, QString(qMax<qsizetype>(0, room) / 2, u' '));
     }
     write(lineBuffer);
-    lineBuffer = u"\""_s;
+    lineBuffer.resize(0); // and keeps its memory for the next line
+    lineBuffer += u'"';
 }
 
 void CompanyPrinterDriver::println(const QString &text)

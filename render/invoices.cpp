@@ -39,8 +39,8 @@ void PrinterDriver::printFullOrderDelivery(const QString &element, const QXmlAtt
 
 void printInvoiceItem(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
-    driver.printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
-                              QObject::tr("Amount"));
+    const ItemTitles &titles = driver.itemTitles();
+    driver.printColumnsHeader(titles.number, titles.description, titles.price, titles.amount);
     // "qdpt" where the receipt has "qxdpt": an invoice shows no "x".
     driver.println(driver.descriptionRow(attributes.value("number"_L1), attributes.value("name"_L1),
                                          attributes.value("price"_L1), attributes.value("totalPrice"_L1),

@@ -3,6 +3,8 @@
 #include "columns.h"
 #include "printerdriver.h"
 
+#include <QObject>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -17,12 +19,6 @@ int leftOver(int paperWidth, Widths... taken)
     return static_cast<int>(static_cast<unsigned>(paperWidth) - (static_cast<unsigned>(taken) + ...));
 }
 
-/// The description is the one column that is cut: it loses its tail, whatever else the row holds.
-QString descriptionColumn(const QString &text, int width, QChar fill)
-{
-    return columns::cut(columns::leftJustified(text, width, fill), width);
-}
-
 } // namespace
 
 QString PrinterDriver::descriptionRow(const QString &quantity, const QString &description,
@@ -35,31 +31,47 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
     const int W = documentSettings.paperWidth;
     const QChar blank = u' ';
 
+    // The description is the one column that is cut: it loses its tail, whatever else the row holds.
+    columns::Row row;
     if (style == "qdpt"_L1)
-        return columns::rightJustified(quantity, Q, blank) + blank +
-               descriptionColumn(description, leftOver(W, Q, P, T, 1), fill) +
-               columns::rightJustified(price, P, fill) + columns::rightJustified(total, T, blank);
-    if (style == "qxdpt"_L1)
-        return columns::rightJustified(quantity, Q, blank) + " x "_L1 +
-               descriptionColumn(description, leftOver(W, Q, P, T, 3), fill) +
-               columns::rightJustified(price, P, fill) + columns::rightJustified(total, T, blank);
-    if (style == "qxd"_L1)
-        return columns::rightJustified(quantity, Q, blank) + " x "_L1 +
-               descriptionColumn(description, leftOver(W, Q, 3), fill);
+        row.rightJustified(quantity, Q, blank)
+            .text(u" ")
+            .cut(description, leftOver(W, Q, P, T, 1), fill)
+            .rightJustified(price, P, fill)
+            .rightJustified(total, T, blank);
+    else if (style == "qxdpt"_L1)
+        row.rightJustified(quantity, Q, blank)
+            .text(u" x ")
+            .cut(description, leftOver(W, Q, P, T, 3), fill)
+            .rightJustified(price, P, fill)
+            .rightJustified(total, T, blank);
+    else if (style == "qxd"_L1)
+        row.rightJustified(quantity, Q, blank).text(u" x ").cut(description, leftOver(W, Q, 3), fill);
     // Two characters short of the paper, and blank whatever the fill. It stays so: kitchens know their
     // tickets.
-    if (style == "qd"_L1)
-        return columns::rightJustified(quantity, Q, blank) + blank +
-               descriptionColumn(description, leftOver(W, Q, 3), blank);
-    if (style == "qxdtDoubleLine"_L1)
-        return quantity + " x "_L1 + price + u'\n' + descriptionColumn(description, leftOver(W, T), fill) +
-               columns::rightJustified(total, T, fill);
+    else if (style == "qd"_L1)
+        row.rightJustified(quantity, Q, blank).text(u" ").cut(description, leftOver(W, Q, 3), blank);
+    else if (style == "qxdtDoubleLine"_L1)
+        row.text(quantity)
+            .text(u" x ")
+            .text(price)
+            .text(u"\n")
+            .cut(description, leftOver(W, T), fill)
+            .rightJustified(total, T, fill);
     // Three characters short of the paper, on purpose; the total is not used.
-    if (style == "date-amount-type"_L1)
-        return columns::leftJustified(quantity, dateWidth, blank) +
-               descriptionColumn(description, leftOver(W, dateWidth, P, 3), fill) +
-               columns::rightJustified(price, P, fill);
-    return {};
+    else if (style == "date-amount-type"_L1)
+        row.leftJustified(quantity, dateWidth, blank)
+            .cut(description, leftOver(W, dateWidth, P, 3), fill)
+            .rightJustified(price, P, fill);
+    return row.toString();
+}
+
+const ItemTitles &PrinterDriver::itemTitles()
+{
+    if (!titles)
+        titles = ItemTitles{QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
+                            QObject::tr("Amount")};
+    return *titles;
 }
 
 void PrinterDriver::printColumnsHeader(const QString &quantity, const QString &description,

@@ -74,8 +74,8 @@ void printPricedItem(PrinterDriver &driver, const QXmlAttributes &attributes)
     const QString name = attributes.value("name"_L1);
     if (name.startsWith(u'='))
         return; // neither a row nor the titles above it
-    driver.printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
-                              QObject::tr("Amount"));
+    const ItemTitles &titles = driver.itemTitles();
+    driver.printColumnsHeader(titles.number, titles.description, titles.price, titles.amount);
     printPricedRow(driver, attributes, name);
 }
 

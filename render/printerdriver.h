@@ -6,9 +6,19 @@
 #include <QXmlDefaultHandler>
 
 #include <memory>
+#include <optional>
 
 class LocaleOutput;
 class PVConfiguration;
+
+/// The titles above the rows of items, in the language of the catalogue.
+struct ItemTitles
+{
+    QString number;
+    QString description;
+    QString price;
+    QString amount;
+};
 
 /// Renders one print job.
 ///
@@ -106,6 +116,9 @@ public:
     /// True the first time that it is called in a run. It shares its latch with the column titles: whichever
     /// comes first shuts out the other.
     bool oneTime();
+    /// The titles that item rows pass to `printColumnsHeader`. Every row passes them, so the catalogue is
+    /// asked at the first call only.
+    const ItemTitles &itemTitles();
     /// One row in the columns of the layout `style`: "qdpt", "qxdpt", "qxd", "qd", "qxdtDoubleLine" or
     /// "date-amount-type" (which takes date, description and amount as its first three texts). Any other word
     /// gives an empty row. No line end.
@@ -137,4 +150,6 @@ protected:
 
 private:
     bool chooseMethod(const QString &name);
+
+    std::optional<ItemTitles> titles;
 };

@@ -21,8 +21,8 @@ void PrinterDriver::printAbstractOrderReceipt(const QString &element, const QXml
 
 void printReceiptItem(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
-    driver.printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
-                              QObject::tr("Amount"));
+    const ItemTitles &titles = driver.itemTitles();
+    driver.printColumnsHeader(titles.number, titles.description, titles.price, titles.amount);
     driver.println(driver.descriptionRow(attributes.value("number"_L1), attributes.value("name"_L1),
                                          attributes.value("price"_L1), attributes.value("totalPrice"_L1),
                                          u'.', u"qxdpt"_s));
@@ -31,8 +31,8 @@ void printReceiptItem(PrinterDriver &driver, const QXmlAttributes &attributes)
 void printReceiptSummaryRow(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
     // There is no unit price: the row's price is its amount, and the title of the amount column says "Price".
-    driver.printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QString(),
-                              QObject::tr("Price"));
+    const ItemTitles &titles = driver.itemTitles();
+    driver.printColumnsHeader(titles.number, titles.description, QString(), titles.price);
     driver.println(driver.descriptionRow(attributes.value("number"_L1), attributes.value("name"_L1),
                                          QString(), attributes.value("price"_L1), u'.', u"qxdpt"_s));
 }

@@ -39,6 +39,22 @@ private Q_SLOTS:
         QCOMPARE(columns::cut(u"\U0001F355\U0001F355\U0001F355"_s, 2), u"\U0001F355\U0001F355"_s);
     }
 
+    void aRowIsItsPieces()
+    {
+        const QString row = columns::Row()
+                                .rightJustified(u"2", 3, u' ')
+                                .text(u" x ")
+                                .cut(u"Caffè macchiato", 5, u'.')
+                                .cut(u"\U0001F355\U0001F355", 1, u'.')
+                                .cut(u"", 2, u'.')
+                                .leftJustified(u"ab", 4, u'-')
+                                .leftJustified(u"abcde", 4, u'-')
+                                .cut(u"whole", -1, u'.')
+                                .toString();
+        QCOMPARE(row, u"  2 x Caffè\U0001F355..ab--abcdewhole"_s);
+        QCOMPARE(columns::Row().toString(), QString());
+    }
+
     void widthsOutOfReachChangeNothing()
     {
         for (const int width :
