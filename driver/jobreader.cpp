@@ -2,9 +2,9 @@
 
 QChar JobSource::next()
 {
-    const QChar character = QXmlInputSource::next();
     if (!inProlog)
-        return character;
+        return QXmlInputSource::next();
+    const QChar character = QXmlInputSource::next();
     if (character == u'(')
         ++openParentheses;
     else if (character == u')')
