@@ -7,7 +7,7 @@ extern "C" __attribute__((visibility("default"))) QCoreApplication *palvestrinNe
 {
     // Nothing is ever shown, and most servers have no display: without this the toolkit would abort on them.
     // A platform that the user chose, by this variable or by -platform, is left alone.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "minimal");
     return new QApplication(argc, argv);
 }
