@@ -3,7 +3,15 @@
 #include "columns.h"
 #include "localeoutput.h"
 
+#include <QStringMatcher>
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QStringMatcher replacedWord(u"TOTALE");
+
+} // namespace
 
 CompanyPrinterDriver::CompanyPrinterDriver(const QString &fileName) : PrinterDriver(fileName, false) {}
 
@@ -57,8 +65,8 @@ void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
     // A rule of the device, for labels and names alike: the word "TOTALE" never reaches the paper. It is
     // applied to each text on its own, so a word put together from two of them gets through.
     lineBuffer.resize(lineBuffer.size() + indent, u' ');
-    if (text.contains(u"TOTALE"))
-        lineBuffer += QString(text).replace("TOTALE"_L1, "SOMMA"_L1);
+    if (replacedWord.indexIn(text) >= 0)
+        lineBuffer += QString(text).replace(replacedWord.pattern(), "SOMMA"_L1);
     else
         lineBuffer += text;
 }
