@@ -51,7 +51,7 @@ QString rightJustified(const QString &text, int width, QChar fill)
 
 QString cut(const QString &text, int width)
 {
-    return firstCharacters(text, width).toString();
+    return text.left(firstCharacters(text, width).size());
 }
 
 Row &Row::text(QStringView piece)
