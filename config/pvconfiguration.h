@@ -17,4 +17,7 @@ public:
     /// The text of a setting such as "palvestrin.logger.level"; "" when it is missing or empty. There are no
     /// defaults here: what "" means is the business of each reader.
     QString getStrValue(const QString &key) const;
+
+    /// Defined here, so that only a program that calls it needs libconfig-widget.
+    QTreeWidget *newConfigListView() const { return Config::newConfigListView(); }
 };

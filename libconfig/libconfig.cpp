@@ -1,12 +1,16 @@
 #include "libconfig.h"
 
+#include "orderedattributes.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QStringView>
 #include <QXmlStreamReader>
 
 #include <iostream>
+#include <optional>
 #include <string>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -32,19 +36,41 @@ private:
     std::string bytes;
 };
 
-/// Whether elements stand deeper in each other than the tree can be freed again: it recurses.
-bool nestsTooDeep(const QByteArray &xml)
+/// The attribute names of every element in document order; nothing when the file is no XML, or nests its
+/// elements deeper than the tree can be freed again: it recurses.
+std::optional<std::vector<QStringList>> attributeNames(const QByteArray &xml)
 {
+    std::vector<QStringList> names;
     QXmlStreamReader reader(xml);
+    reader.setNamespaceProcessing(false); // as the tree is built: what one takes, the other must take too
     int depth = 0;
     while (!reader.atEnd()) {
         reader.readNext();
-        if (reader.isStartElement() && ++depth > Config::maxDepth)
-            return true;
+        if (reader.isStartElement()) {
+            if (++depth > Config::maxDepth)
+                return std::nullopt;
+            QStringList &ofElement = names.emplace_back();
+            for (const QXmlStreamAttribute &attribute : reader.attributes())
+                ofElement += attribute.qualifiedName().toString();
+        }
         if (reader.isEndElement())
             --depth;
     }
-    return false;
+    if (reader.hasError())
+        return std::nullopt;
+    return names;
+}
+
+using NamesIterator = std::vector<QStringList>::const_iterator;
+
+/// Hands the elements from `node` down their attribute names, in document order; returns where it stopped.
+NamesIterator rememberOrder(const QDomNode &node, NamesIterator next, NamesIterator end)
+{
+    if (node.isElement() && next != end)
+        OrderedAttributes(node.toElement()).setOrder(*next++);
+    for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
+        next = rememberOrder(child, next, end);
+    return next;
 }
 
 } // namespace
@@ -149,6 +175,7 @@ void Config::loadFile(const QString &name, QDomNode parent)
 Config::End Config::readItems(QDomElement element, QDomNode parent)
 {
     TextBuffer text;
+    OrderedAttributes attributes(element);
     char c = 0;
     while (get(c)) {
         switch (c) {
@@ -159,7 +186,7 @@ Config::End Config::readItems(QDomElement element, QDomNode parent)
             text.clear();
             break;
         case '=':
-            element.setAttribute(QString::fromLatin1(text.stripped()), readValue());
+            attributes.set(QString::fromLatin1(text.stripped()), readValue());
             parent.appendChild(element);
             text.clear();
             break;
@@ -198,8 +225,10 @@ void Config::loadXmlFile()
     if (!xmlFile.open(QIODevice::ReadOnly))
         return;
     const QByteArray content = xmlFile.readAll();
-    if (nestsTooDeep(content) || !document->setContent(content))
+    const auto names = attributeNames(content);
+    if (!names || !document->setContent(content))
         return;
+    rememberOrder(*document, names->begin(), names->end());
     // Whatever stands first moves under the root, a comment or an XML declaration too: then no key is found.
     QDomElement root = newElement(fileName);
     root.appendChild(document->firstChild());

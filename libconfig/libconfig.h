@@ -2,21 +2,26 @@
 
 #include <QDomDocument>
 #include <QString>
+#include <QStringConverter>
 
 #include <fstream>
 #include <memory>
+
+class QTextStream;
+class QTreeWidget;
 
 /// The configuration file: read into a tree, asked by dotted keys.
 ///
 /// The namespace is this system's own and has nothing to do with any outside library of a similar name.
 namespace libconfig {
 
-/// One configuration file in memory. Not thread-safe while it reads; after that it is read-only and may be
-/// asked from any thread.
+/// One configuration file in memory. Not thread-safe while it reads, writes or is changed; look-ups alone may
+/// come from any thread.
 ///
 /// Two forms of file are known: the brace-block text form ("cfg") and XML ("xml"). Either becomes a tree
 /// whose root element is named after the whole file name and holds one element for each block, one attribute
-/// for each pair. All values are text; callers convert them.
+/// for each pair. All values are text; callers convert them. Both keep the order of the file: the tree
+/// remembers it for the pairs (see `OrderedAttributes`), which the toolkit would shuffle.
 class Config
 {
 public:
@@ -59,7 +64,43 @@ public:
     /// Reads the XML form.
     void loadXmlFile();
 
+    // Writing. The tree holds more than the forms can: what is lost is told in docs/configuration.md.
+
+    /// Writes the tree in the text form to `name`, "" meaning the file that was read: the root's pairs, then
+    /// its first block. Overwrites in place, so a crash or a full disk leaves half a file. False when the
+    /// file cannot be opened, then nothing is written, or when not all of it could be written.
+    bool buildConfigFile(const QString &name);
+    /// One block, at the indentation that this writer has reached. Nodes that are no elements write nothing.
+    void buildConfigFile(const QDomNode &node, QTextStream &stream);
+    /// The same in the XML form.
+    bool buildConfigXmlFile(const QString &name);
+    void buildConfigXmlFile(const QDomNode &node, QTextStream &stream);
+
+    /// Prints the tree on standard output, in UTF-8.
+    void printConfigTree() const;
+    void printConfigTree(const QDomNode &node) const;
+
+    /// The root of the tree, made when there is none yet. Changes to it are changes to this configuration;
+    /// attributes are set through `OrderedAttributes`.
+    QDomElement root();
+    /// A new block in `parent`, behind the others. While it stays empty, the reader will not see it again.
+    QDomElement appendBlock(QDomElement parent, const QString &name);
+
+    // The list view. These are defined in libconfig-widget: a program that shows no window links no widgets.
+
+    /// A new tree widget that shows the tree, to be deleted by the caller. Two columns, setting and value; a
+    /// setting is edited in place, a block has no value.
+    QTreeWidget *newConfigListView() const;
+    /// Fills `view` with the tree, replacing what it shows.
+    void buildConfigListView(QTreeWidget *view) const;
+    /// Replaces the tree by what `view` shows.
+    void readListView(const QTreeWidget *view);
+    /// The same, and writes it to the file that was read, in the form that it was read in. False when that
+    /// fails or the form is unknown.
+    bool loadListView(const QTreeWidget *view);
+
 private:
+    using BlockWriter = void (Config::*)(const QDomNode &, QTextStream &);
     enum class End { Brace, File };
 
     /// The next byte of the file; false when there is none.
@@ -69,6 +110,7 @@ private:
     End readItems(QDomElement element, QDomNode parent);
     QString readValue();
     QDomElement newElement(const QString &name);
+    bool writeFile(const QString &name, QStringConverter::Encoding encoding, BlockWriter writeBlock);
 
     QString fileName;
     QString fileType;

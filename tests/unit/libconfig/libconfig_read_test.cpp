@@ -194,6 +194,9 @@ private Q_SLOTS:
         QCOMPARE(lookupIn("<palvestrin><db dbname='shop'></palvestrin>", u"palvestrin.db.dbname"_s, u"xml"_s),
                  QString());
         QCOMPARE(lookupIn(QByteArray("<a>").repeated(1000000), u"a.b"_s, u"xml"_s), QString());
+        // An undeclared prefix is no error for the tree, so it must not end the guard against depth either.
+        const QByteArray deep = QByteArray("<a>").repeated(1000000) + QByteArray("</a>").repeated(1000000);
+        QCOMPARE(lookupIn("<x:p k='v'>" + deep + "</x:p>", u"x:p.k"_s, u"xml"_s), QString());
     }
 
     void aMissingXmlFileIsSilent()
