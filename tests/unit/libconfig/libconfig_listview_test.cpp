@@ -1,10 +1,10 @@
 #include "configlistview.h"
 #include "libconfig.h"
 #include "pvconfiguration.h"
+#include "scratchfolder.h"
 #include "temporaryhome.h"
 
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -15,20 +15,11 @@ class LibconfigListViewTest : public QObject
     Q_OBJECT
 
 private:
-    QTemporaryDir folder;
+    const ScratchFolder folder;
 
-    QString path() const { return folder.filePath(u"test.conf"_s); }
-    void write(const QByteArray &content) const
-    {
-        QFile file(path());
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write the test's configuration");
-    }
-    QByteArray written() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot read the file");
-    }
+    QString path() const { return folder.path(u"test.conf"_s); }
+    void write(const QByteArray &content) const { folder.write(u"test.conf"_s, content); }
+    QByteArray written() const { return folder.read(u"test.conf"_s); }
     /// Types `text` into the cell as a person does; false when the cell opens no editor.
     static bool typeInto(QTreeWidget *view, QTreeWidgetItem *row, int column, const QString &text)
     {

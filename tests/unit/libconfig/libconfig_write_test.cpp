@@ -1,8 +1,9 @@
 #include "capturedoutput.h"
 #include "libconfig.h"
 #include "orderedattributes.h"
+#include "scratchfolder.h"
 
-#include <QTemporaryDir>
+#include <QRandomGenerator>
 #include <QTest>
 #include <QTextStream>
 
@@ -54,37 +55,25 @@ class LibconfigWriteTest : public QObject
     Q_OBJECT
 
 private:
-    QTemporaryDir folder;
+    const ScratchFolder folder;
 
-    QString inPath() const { return folder.filePath(u"in.conf"_s); }
-    QString outPath() const { return folder.filePath(u"out.conf"_s); }
-
-    static void write(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write %s", qPrintable(path));
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            return "cannot read the file";
-        return file.readAll();
-    }
+    QString inPath() const { return folder.path(u"in.conf"_s); }
+    QString outPath() const { return folder.path(u"out.conf"_s); }
+    void write(const QByteArray &content) const { folder.write(u"in.conf"_s, content); }
+    QByteArray written() const { return folder.read(u"out.conf"_s); }
 
     /// `content`, read in the form `type` and written in the text form.
     QByteArray asText(const QByteArray &content, const QString &type = u"cfg"_s)
     {
-        write(inPath(), content);
+        write(content);
         libconfig::Config config(inPath(), type);
-        return config.buildConfigFile(outPath()) ? read(outPath()) : QByteArray("not written");
+        return config.buildConfigFile(outPath()) ? written() : QByteArray("not written");
     }
     QByteArray asXml(const QByteArray &content, const QString &type = u"cfg"_s)
     {
-        write(inPath(), content);
+        write(content);
         libconfig::Config config(inPath(), type);
-        return config.buildConfigXmlFile(outPath()) ? read(outPath()) : QByteArray("not written");
+        return config.buildConfigXmlFile(outPath()) ? written() : QByteArray("not written");
     }
 
 private Q_SLOTS:
@@ -172,6 +161,36 @@ private Q_SLOTS:
         QCOMPARE(asXml(many, u"xml"_s), many);
     }
 
+    void randomTreesComeBack()
+    {
+        QRandomGenerator random(20070318);
+        const auto text = [&random](int least, const QByteArray &forbidden) {
+            QString result;
+            for (int length = random.bounded(least, 12); result.size() < length;) {
+                const char c = char(random.bounded(256));
+                if (!forbidden.contains(c))
+                    result += QChar::fromLatin1(c);
+            }
+            return result;
+        };
+        const auto name = [&] { return u'n' + text(0, ":=}") + u'n'; };
+        for (int round = 0; round < 300; ++round) {
+            libconfig::Config config(inPath(), u"none"_s);
+            QDomElement block = config.appendBlock(config.root(), name());
+            for (int step = 0; step < 20; ++step) {
+                libconfig::OrderedAttributes(block).set(name(), text(0, "\";"));
+                if (random.bounded(3) == 0)
+                    block = config.appendBlock(block, name());
+                else if (random.bounded(4) == 0 && block.parentNode() != config.root())
+                    block = block.parentNode().toElement();
+            }
+            libconfig::OrderedAttributes(block).set(name(), QString()); // a block must not stay empty
+            QVERIFY(config.buildConfigFile(outPath()));
+            const QByteArray once = written();
+            QCOMPARE(asText(once), once);
+        }
+    }
+
     void whatIsNoElementIsNotWritten()
     {
         QCOMPARE(asXml("<p k='v'><!-- note -->text<?do it?><q m='w'/></p>", u"xml"_s),
@@ -206,31 +225,31 @@ private Q_SLOTS:
 
     void anEmptyNameMeansTheFileThatWasRead()
     {
-        write(inPath(), "p:{k=v;};");
+        write("p:{k=v;};");
         QVERIFY(libconfig::Config(inPath(), u"cfg"_s).buildConfigFile(QString()));
-        QCOMPARE(read(inPath()), "p: \n{\n    k = \"v\";\n};\n\n");
+        QCOMPARE(folder.read(u"in.conf"_s), "p: \n{\n    k = \"v\";\n};\n\n");
         QVERIFY(libconfig::Config(inPath(), u"cfg"_s).buildConfigXmlFile(QString()));
-        QCOMPARE(read(inPath()), "\n<p\n    k = \"v\">\n</p>\n");
+        QCOMPARE(folder.read(u"in.conf"_s), "\n<p\n    k = \"v\">\n</p>\n");
     }
 
     void aLongerOldFileIsCutOff()
     {
-        write(outPath(), QByteArray(10000, 'x'));
+        folder.write(u"out.conf"_s, QByteArray(10000, 'x'));
         QCOMPARE(asText("p:{k=v;};"), "p: \n{\n    k = \"v\";\n};\n\n");
     }
 
     void aFileThatCannotBeOpenedIsNotWritten()
     {
-        write(inPath(), "p:{k=v;};");
+        write("p:{k=v;};");
         libconfig::Config config(inPath(), u"cfg"_s);
         QVERIFY(!config.buildConfigFile(folder.path()));
-        QVERIFY(!config.buildConfigXmlFile(folder.filePath(u"absent/out.conf"_s)));
-        QVERIFY(!QFile::exists(folder.filePath(u"absent"_s)));
+        QVERIFY(!config.buildConfigXmlFile(folder.path(u"absent/out.conf"_s)));
+        QVERIFY(!QFile::exists(folder.path(u"absent"_s)));
     }
 
     void aFullDiskIsTold()
     {
-        write(inPath(), "p:{k=v;};");
+        write("p:{k=v;};");
         libconfig::Config config(inPath(), u"cfg"_s);
         QVERIFY(!config.buildConfigFile(u"/dev/full"_s));
         QVERIFY(!config.buildConfigXmlFile(u"/dev/full"_s));
@@ -238,7 +257,7 @@ private Q_SLOTS:
 
     void aBlockAloneIsWrittenAtTheMargin()
     {
-        write(inPath(), "p:{a:{k=v;};};");
+        write("p:{a:{k=v;};};");
         libconfig::Config config(inPath(), u"cfg"_s);
         QString text;
         QTextStream stream(&text);
@@ -255,7 +274,7 @@ private Q_SLOTS:
 
     void printsTheTree()
     {
-        write(inPath(), "top=1;p:{z=1;a=caff\xe8;q:{k=v;};};r:{m=w;};");
+        write("top=1;p:{z=1;a=caff\xe8;q:{k=v;};};r:{m=w;};");
         CapturedOutput output;
         libconfig::Config(inPath(), u"cfg"_s).printConfigTree();
         QCOMPARE(output.bytes(), "Tree \n" + inPath().toUtf8() +
@@ -271,7 +290,7 @@ private Q_SLOTS:
 
     void changesKeepTheOrder()
     {
-        write(inPath(), "p:{z=1;y=2;x=3;};");
+        write("p:{z=1;y=2;x=3;};");
         libconfig::Config config(inPath(), u"cfg"_s);
         const QDomElement block = config.root().firstChildElement();
         {
@@ -286,14 +305,14 @@ private Q_SLOTS:
         libconfig::OrderedAttributes(added).set(u"k"_s, u"v"_s);
         QVERIFY(config.buildConfigFile(outPath()));
         QCOMPARE(
-            read(outPath()),
+            written(),
             "p: \n{\n    y = \"changed\";\n    x = \"3\";\n    b = \"4\";\n    a = \"5\";\n    z = \"6\";\n"
             "    new block: \n    {\n        k = \"v\";\n    };\n\n};\n\n");
     }
 
     void anAttributeSetPastTheOrderStandsBehind()
     {
-        write(inPath(), "p:{z=1;};");
+        write("p:{z=1;};");
         libconfig::Config config(inPath(), u"cfg"_s);
         QDomElement block = config.root().firstChildElement();
         block.setAttribute(u"b"_s, u"2"_s);
