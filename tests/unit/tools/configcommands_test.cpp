@@ -1,0 +1,555 @@
+#include "scratchfolder.h"
+#include "temporaryhome.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTest>
+
+#include <list>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr char example[] = R"(palvestrin: 
+{
+    logger: 
+    {
+        level = "INFO";
+        filename = "palvestrin.log";
+    };
+
+    receiptdoc: 
+    {
+        paperWidth = "40";
+    };
+
+};
+
+)";
+
+struct Result
+{
+    int code = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+} // namespace
+
+/// Runs the program itself: what it prints, how it ends, what the file holds afterwards.
+class ConfigCommandsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    const TemporaryHome home; ///< nothing here may touch the home of whoever runs the tests
+
+    static Result run(const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(QStringLiteral(PALVESTRIN_PROGRAM), QStringList{u"config"_s} + arguments);
+        if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+            return {};
+        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+    /// The same with "--file FILE" behind the command.
+    static Result runOn(const QString &file, QStringList arguments)
+    {
+        arguments.insert(1, u"--file"_s);
+        arguments.insert(2, file);
+        return run(arguments);
+    }
+
+private Q_SLOTS:
+    void worksOnTheUsersFile()
+    {
+        QCOMPARE(run({u"set"_s, u"palvestrin.db.dbname"_s, u"shop"_s}).code, 0);
+        QFile file(home.configurationPath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(),
+                 "palvestrin: \n{\n    db: \n    {\n        dbname = \"shop\";\n    };\n\n};\n\n");
+        const Result got = run({u"get"_s, u"palvestrin.db.dbname"_s});
+        QCOMPARE(got.code, 0);
+        QCOMPARE(got.output, "shop\n");
+    }
+
+    void setKeepsEverythingElse()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, example);
+        QCOMPARE(runOn(path, {u"set"_s, u"palvestrin.logger.level"_s, u"DEBUG"_s}).code, 0);
+        QCOMPARE(folder.read(u"c.conf"_s), QByteArray(example).replace("INFO", "DEBUG"));
+        QCOMPARE(folder.read(u"c.conf.bak"_s), example);
+        const QStringList both{u"c.conf"_s, u"c.conf.bak"_s};
+        QCOMPARE(folder.names(), both);
+    }
+
+    void settingWhatIsSetWritesNothing()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, example);
+        QCOMPARE(runOn(path, {u"set"_s, u"palvestrin.logger.level"_s, u"INFO"_s}).code, 0);
+        QCOMPARE(folder.names(), QStringList{u"c.conf"_s});
+    }
+
+    void valuesAreStoredAsLatin1()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, "");
+        QCOMPARE(runOn(path, {u"set"_s, u"palvestrin.db.dbname"_s, u"caff\u00e8"_s}).code, 0);
+        QCOMPARE(folder.read(u"c.conf"_s),
+                 "palvestrin: \n{\n    db: \n    {\n        dbname = \"caff\xe8\";\n    };\n\n};\n\n");
+        QCOMPARE(runOn(path, {u"get"_s, u"palvestrin.db.dbname"_s}).output, "caff\xc3\xa8\n");
+    }
+
+    void setsTheXmlForm()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.xml"_s, "<palvestrin z='1'><db dbname='shop'/></palvestrin>");
+        QCOMPARE(runOn(path, {u"set"_s, u"palvestrin.db.hostname"_s, u"caff\u00e8"_s}).code, 0);
+        QCOMPARE(folder.read(u"c.xml"_s),
+                 "\n<palvestrin\n    z = \"1\">\n\n    <db\n        dbname = \"shop\"\n"
+                 "        hostname = \"caff\xc3\xa8\">\n    </db>\n</palvestrin>\n");
+        const Result refused = runOn(path, {u"set"_s, u"palvestrin.db.password"_s, u"a<b"_s});
+        QCOMPARE(refused.code, 3);
+        QCOMPARE(refused.errors,
+                 path.toUtf8() +
+                     ": error: \"palvestrin\" would not survive: the XML form has no room for pairs outside "
+                     "the first block, names that are no XML names, and '\"', '<', '&' and line breaks in "
+                     "values\n");
+    }
+
+    void unsets()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, example);
+        QCOMPARE(runOn(path, {u"unset"_s, u"palvestrin.receiptdoc.paperWidth"_s}).code, 0);
+        QCOMPARE(folder.read(u"c.conf"_s), "palvestrin: \n{\n    logger: \n    {\n        level = \"INFO\";\n"
+                                           "        filename = \"palvestrin.log\";\n    };\n\n};\n\n");
+        const Result again = runOn(path, {u"unset"_s, u"palvestrin.receiptdoc.paperWidth"_s});
+        QCOMPARE(again.code, 1);
+        QCOMPARE(again.errors, path.toUtf8() + ": error: \"palvestrin.receiptdoc.paperWidth\" is not set\n");
+        QCOMPARE(folder.read(u"c.conf.bak"_s), example);
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QByteArray>("errors");
+        const auto row = [](const QStringList &arguments, int code, const QByteArray &errors) {
+            QTest::newRow(qPrintable(arguments.join(u' ')))
+                << arguments << code << "palvestrin: error: " + errors + '\n';
+        };
+        row({u"set"_s, u"palvestrin.logger.levl"_s, u"INFO"_s}, 3,
+            "no program reads \"palvestrin.logger.levl\"; did you mean \"palvestrin.logger.level\"?");
+        row({u"set"_s, u"my.own.key"_s, u"1"_s}, 3,
+            "no program reads \"my.own.key\"; \"palvestrin config list\" lists the known ones");
+        row({u"set"_s, u"palvestrin.receiptdoc.printDate"_s, u"True"_s}, 3,
+            "\"True\" is no value for palvestrin.receiptdoc.printDate; give true or false, in small letters");
+        row({u"set"_s, u"palvestrin.db.dbname"_s, u"a;b"_s}, 3, "a value cannot hold ';'; leave it out");
+        row({u"set"_s, u"--unchecked"_s, u"nodots"_s, u"v"_s}, 3,
+            "\"nodots\" is no key; a key is two or more names of letters, digits, '_' and '-', with dots "
+            "between");
+        row({u"get"_s, u"palvestrin.db.host"_s}, 3,
+            "no program reads \"palvestrin.db.host\"; did you mean \"palvestrin.db.hostname\"?");
+        row({}, 2, "no command given; \"palvestrin config --help\" lists them");
+        row({u"put"_s}, 2, "no command \"put\"; \"palvestrin config --help\" lists them");
+        row({u"set"_s, u"palvestrin.db.dbname"_s}, 2,
+            "1 arguments given; usage: palvestrin config set [--file FILE] [--force] [--unchecked] KEY VALUE "
+            "(an "
+            "argument that begins with \"-\" goes behind \"--\")");
+        row({u"get"_s, u"--nope"_s}, 2,
+            "Unknown option 'nope'; usage: palvestrin config get [--file FILE] KEY (an argument that begins "
+            "with \"-\" "
+            "goes behind \"--\")");
+    }
+    void refusals()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, code);
+        QFETCH(QByteArray, errors);
+        const Result result = run(arguments);
+        QCOMPARE(result.errors, errors);
+        QCOMPARE(result.code, code);
+        QCOMPARE(result.output, "");
+    }
+
+    void uncheckedStoresWhatNobodyKnows()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, "p:{k=v;};");
+        QCOMPARE(runOn(path, {u"set"_s, u"--unchecked"_s, u"p.mine"_s, u"1"_s}).code, 0);
+        QCOMPARE(folder.read(u"c.conf"_s), "p: \n{\n    k = \"v\";\n    mine = \"1\";\n};\n\n");
+        QCOMPARE(runOn(path, {u"get"_s, u"p.mine"_s}).output, "1\n");
+    }
+
+    void aValueMayBeginWithADash()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, "");
+        QCOMPARE(runOn(path, {u"set"_s, u"--"_s, u"palvestrin.db.password"_s, u"-x"_s}).code, 0);
+        QCOMPARE(runOn(path, {u"get"_s, u"palvestrin.db.password"_s}).output, "-x\n");
+    }
+
+    void whatWritingWouldLoseIsNamedAndKept()
+    {
+        const ScratchFolder folder;
+        const QByteArray content =
+            "palvestrin: {\n  logger: { level = INFO; # loud\n  };\n};\nold: { a = 1; };\n";
+        const QString path = folder.write(u"c.conf"_s, content);
+        const QByteArray file = path.toUtf8();
+        const QByteArray losses = file +
+                                  ":2:27: error: writing would lose \"# loud\", which belongs to no setting; "
+                                  "take it out, or give --force\n" +
+                                  file +
+                                  ":5:1: error: writing would lose block \"old\": only the first top-level "
+                                  "block is read and written; "
+                                  "take it out, or give --force\n";
+        for (const QStringList &arguments : {QStringList{u"set"_s, u"palvestrin.logger.level"_s, u"DEBUG"_s},
+                                             QStringList{u"unset"_s, u"palvestrin.logger.level"_s}}) {
+            const Result refused = runOn(path, arguments);
+            QCOMPARE(refused.errors, losses);
+            QCOMPARE(refused.code, 5);
+        }
+        QCOMPARE(folder.read(u"c.conf"_s), content);
+        QCOMPARE(folder.names(), QStringList{u"c.conf"_s});
+
+        const Result forced = runOn(path, {u"set"_s, u"--force"_s, u"palvestrin.logger.level"_s, u"DEBUG"_s});
+        QCOMPARE(forced.code, 0);
+        QCOMPARE(forced.errors, "palvestrin: note: the file as it was is kept as " + file + ".bak.1\n");
+        const QByteArray written =
+            "palvestrin: \n{\n    logger: \n    {\n        level = \"DEBUG\";\n    };\n\n};\n\n";
+        QCOMPARE(folder.read(u"c.conf"_s), written);
+
+        // No later change takes the kept file away, forced or not.
+        QCOMPARE(runOn(path, {u"set"_s, u"palvestrin.logger.level"_s, u"INFO"_s}).code, 0);
+        folder.write(u"c.conf"_s, written + "# another remark\n");
+        QCOMPARE(runOn(path, {u"set"_s, u"--force"_s, u"palvestrin.logger.level"_s, u"FATAL"_s}).code, 0);
+        QCOMPARE(folder.read(u"c.conf.bak.1"_s), content);
+        QCOMPARE(folder.read(u"c.conf.bak.2"_s), written + "# another remark\n");
+        QCOMPARE(folder.read(u"c.conf.bak"_s), written);
+    }
+
+    void aRemarkInFrontHidesTheBlock()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, "# mine\npalvestrin: { logger: { level = INFO; }; };");
+        const Result result = runOn(path, {u"set"_s, u"--force"_s, u"palvestrin.logger.level"_s, u"DEBUG"_s});
+        QCOMPARE(result.code, 3);
+        QCOMPARE(result.errors,
+                 path.toUtf8() + ": error: \"palvestrin.logger.level\" would never be found, for the first "
+                                 "block is \"# mine palvestrin\"; move the block \"palvestrin\" to the "
+                                 "front, without text before its name\n");
+        QCOMPARE(runOn(path, {u"list"_s, u"palvestrin.logger.level"_s}).output,
+                 "palvestrin.logger.level is not set, counts as DEBUG\n"
+                 "    least level written: DEBUG, INFO, WARNING, ERROR or FATAL, in any case; when missing: "
+                 "DEBUG\n"
+                 "    read by: logger\n"
+                 "# mine palvestrin.logger.level = INFO\n"
+                 "    no program reads this; did you mean palvestrin.logger.level?\n");
+    }
+
+    void lists()
+    {
+        const ScratchFolder folder;
+        const QString path =
+            folder.write(u"c.conf"_s, "palvestrin: { receiptdoc: { paperWidth = wide; papreRows = 3; }; };");
+        const Result list = runOn(path, {u"list"_s, u"palvestrin.receiptdoc.pap"_s});
+        QCOMPARE(list.code, 0);
+        QCOMPARE(list.output,
+                 "palvestrin.receiptdoc.paperWidth = wide, counts as 32\n"
+                 "    characters of a line; when missing: 32, the printer's own width; the same for 0\n"
+                 "    consulted by: printFullOrderReceipt, printAbstractOrderReceipt\n"
+                 "palvestrin.receiptdoc.paperRows is not set, counts as 0\n"
+                 "    rows of a page; no effect; when missing: 0\n"
+                 "    consulted by no print method\n"
+                 "palvestrin.receiptdoc.papreRows = 3\n"
+                 "    no program reads this; did you mean palvestrin.receiptdoc.paperRows?\n");
+    }
+
+    void listsAsJson()
+    {
+        const ScratchFolder folder;
+        const QString path =
+            folder.write(u"c.conf"_s, "palvestrin: { reportdoc: { paperWidth = 40; x = 1; }; };");
+        const QJsonArray keys =
+            QJsonDocument::fromJson(runOn(path, {u"list"_s, u"--json"_s, u"palvestrin.reportdoc."_s}).output)
+                .array();
+        QCOMPARE(keys.size(), qsizetype(26)); // 23 settings, the top margin, the copy number, the unknown one
+        const auto find = [&keys](const QString &key) {
+            for (const QJsonValue &value : keys) {
+                if (value[u"key"_s].toString() == key)
+                    return value.toObject();
+            }
+            return QJsonObject();
+        };
+        const QJsonObject expected{
+            {u"key"_s, u"palvestrin.reportdoc.paperWidth"_s},
+            {u"known"_s, true},
+            {u"value"_s, u"40"_s},
+            {u"effective"_s, u"40"_s},
+            {u"meaning"_s, u"characters of a line"_s},
+            {u"whenMissing"_s, u"32, the printer's own width; the same for 0"_s},
+            {u"readBy"_s, u"printing"_s},
+            {u"printMethods"_s, QJsonArray{u"printReport"_s, u"printStatementOfAccount"_s}}};
+        QCOMPARE(find(u"palvestrin.reportdoc.paperWidth"_s), expected);
+        QVERIFY(find(u"palvestrin.reportdoc.printDate"_s)[u"value"_s].isNull());
+        const QJsonObject unknown{
+            {u"key"_s, u"palvestrin.reportdoc.x"_s},
+            {u"known"_s, false},
+            {u"value"_s, u"1"_s},
+            {u"objection"_s, u"no program reads this; did you mean palvestrin.reportdoc.style?"_s}};
+        QCOMPARE(find(u"palvestrin.reportdoc.x"_s), unknown);
+    }
+
+    void listsTheNames()
+    {
+        QCOMPARE(run({u"list"_s, u"--names"_s, u"palvestrin.logger"_s}).output,
+                 "palvestrin.logger.level\npalvestrin.logger.basedir\npalvestrin.logger.filename\npalvestrin."
+                 "logger.type\n");
+    }
+
+    void aMissingFile()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.path(u"absent.conf"_s);
+        const QByteArray file = path.toUtf8();
+        const Result got = runOn(path, {u"get"_s, u"palvestrin.logger.level"_s});
+        QCOMPARE(got.code, 1);
+        QCOMPARE(got.output, "");
+        QCOMPARE(got.errors, file + ": error: \"palvestrin.logger.level\" is not set; that means: DEBUG\n");
+        const Result list = runOn(path, {u"list"_s, u"palvestrin.db.dbname"_s});
+        QCOMPARE(list.code, 0);
+        QCOMPARE(list.errors, "palvestrin: note: there is no file " + file + "; nothing is set\n");
+        const Result show = runOn(path, {u"show"_s});
+        QCOMPARE(show.code, 4);
+        QCOMPARE(show.errors, file + ": error: there is no such file; \"palvestrin config set\" makes it\n");
+        QVERIFY(folder.names().isEmpty());
+    }
+
+    void blocksSoDeepThatTheirIndentationHidesThemAreNotWritten()
+    {
+        const ScratchFolder folder;
+        const QByteArray content =
+            "palvestrin:{" + QByteArray("a:{").repeated(600) + "k=v;" + QByteArray("};").repeated(600) + "};";
+        const QString path = folder.write(u"c.conf"_s, content);
+        const Result result = runOn(path, {u"set"_s, u"--force"_s, u"palvestrin.db.dbname"_s, u"shop"_s});
+        QCOMPARE(result.code, 3);
+        QVERIFY(result.errors.contains(" would not survive: the text form has no room for "));
+        QCOMPARE(folder.read(u"c.conf"_s), content);
+        QCOMPARE(folder.names(), QStringList{u"c.conf"_s});
+    }
+
+    void brokenXmlIsNotTouched()
+    {
+        const ScratchFolder folder;
+        const QByteArray content = "<palvestrin>\n  <db dbname='shop'>\n</palvestrin>\n";
+        const QString path = folder.write(u"c.xml"_s, content);
+        for (const QStringList &arguments :
+             {QStringList{u"get"_s, u"palvestrin.db.dbname"_s},
+              QStringList{u"set"_s, u"--force"_s, u"palvestrin.db.dbname"_s, u"x"_s},
+              QStringList{u"show"_s}}) {
+            const Result result = runOn(path, arguments);
+            QCOMPARE(result.code, 4);
+            QCOMPARE(result.errors, path.toUtf8() +
+                                        ":3:14: error: Opening and ending tag mismatch; nothing is found in "
+                                        "XML that is not well-formed\n");
+        }
+        QCOMPARE(folder.read(u"c.xml"_s), content);
+    }
+
+    void xmlThatBeginsWithARemarkIsNotTouched()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.xml"_s, "<!-- mine -->\n<palvestrin/>\n");
+        const Result result = runOn(path, {u"set"_s, u"--force"_s, u"palvestrin.db.dbname"_s, u"x"_s});
+        QCOMPARE(result.code, 4);
+        QCOMPARE(result.errors, path.toUtf8() +
+                                    ":1:1: error: nothing is found in an XML file that begins with a "
+                                    "declaration or a remark; remove what stands before the first element\n");
+        QCOMPARE(folder.read(u"c.xml"_s), "<!-- mine -->\n<palvestrin/>\n");
+    }
+
+    void shows()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, example);
+        QCOMPARE(runOn(path, {u"show"_s}).output, "Tree \n" + path.toUtf8() +
+                                                      "\npalvestrin\nlogger\nlevel = INFO\nfilename = "
+                                                      "palvestrin.log\nreceiptdoc\npaperWidth = 40\n");
+    }
+
+    void convertsBothWays()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, example);
+        const QByteArray xml =
+            "\n<palvestrin>\n\n    <logger\n        level = \"INFO\"\n        filename = "
+            "\"palvestrin.log\">\n    </logger>\n\n    <receiptdoc\n        paperWidth = \"40\">\n"
+            "    </receiptdoc>\n</palvestrin>\n";
+        QCOMPARE(run({u"convert"_s, u"--to"_s, u"xml"_s, path}).output, xml);
+        const QString xmlPath = folder.path(u"c.xml"_s);
+        QCOMPARE(run({u"convert"_s, u"--to"_s, u"xml"_s, u"--output"_s, xmlPath, path}).code, 0);
+        QCOMPARE(folder.read(u"c.xml"_s), xml);
+        QCOMPARE(run({u"convert"_s, u"--to"_s, u"cfg"_s, xmlPath}).output, example);
+        QCOMPARE(folder.read(u"c.conf"_s), example);
+    }
+
+    void convertsOnlyWhatTheOtherFormHolds()
+    {
+        const ScratchFolder folder;
+        const QByteArray textForm = "the text form has no room for ';' and '\"', characters outside Latin-1, "
+                                    "and more than 2044 bytes\n";
+        for (const QByteArray value : {"a;b", "a&quot;b", "\xe2\x82\xac"}) {
+            const QString path = folder.write(u"c.xml"_s, "<p><q k='" + value + "'/></p>");
+            const Result refused = run({u"convert"_s, u"--to"_s, u"cfg"_s, path});
+            QCOMPARE(refused.code, 3);
+            QCOMPARE(refused.output, "");
+            QCOMPARE(refused.errors, path.toUtf8() + ": error: \"p.q.k\" would not survive: " + textForm);
+        }
+        const QString text = folder.write(u"c.conf"_s, "top=1;p:{k=v;};");
+        QCOMPARE(run({u"convert"_s, u"--to"_s, u"xml"_s, text}).code, 3);
+        const Result forced = run({u"convert"_s, u"--to"_s, u"xml"_s, u"--force"_s, text});
+        QCOMPARE(forced.code, 0);
+        QCOMPARE(forced.output, "top = \"1\";\n\n<p\n    k = \"v\">\n</p>\n");
+        const Result unknownForm = run({u"convert"_s, u"--to"_s, u"ini"_s, text});
+        QCOMPARE(unknownForm.code, 2);
+        QCOMPARE(unknownForm.errors, "palvestrin: error: no form \"ini\"; give --to xml or --to cfg\n");
+    }
+
+    void aFullDiskLeavesTheOldFile()
+    {
+        const ScratchFolder folder;
+        const QByteArray content = "palvestrin: \n{\n    k = \"" + QByteArray(1500, 'v') + "\";\n};\n\n";
+        const QString path = folder.write(u"c.conf"_s, content);
+        QProcess shell; // a file may have 512 bytes here
+        shell.start(u"sh"_s, {u"-c"_s, u"ulimit -f 1; trap '' XFSZ; exec \"$@\""_s, u"sh"_s,
+                              QStringLiteral(PALVESTRIN_PROGRAM), u"config"_s, u"set"_s, u"--file"_s, path,
+                              u"palvestrin.db.dbname"_s, u"shop"_s});
+        QVERIFY(shell.waitForFinished());
+        QCOMPARE(shell.exitCode(), 7);
+        QCOMPARE(folder.read(u"c.conf"_s), content);
+        QCOMPARE(folder.names(), QStringList{u"c.conf"_s});
+    }
+
+    void aFullOutputIsTold()
+    {
+        QProcess shell;
+        shell.start(u"sh"_s, {u"-c"_s, u"exec \"$0\" config list --names >/dev/full"_s,
+                              QStringLiteral(PALVESTRIN_PROGRAM)});
+        QVERIFY(shell.waitForFinished());
+        QCOMPARE(shell.exitCode(), 7);
+        QCOMPARE(shell.readAllStandardError(), "palvestrin: error: standard output cannot be written\n");
+    }
+
+    void writersAtOnceDoNotMix()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, example);
+        constexpr int writers = 12;
+        std::list<QProcess> processes;
+        for (int i = 0; i < writers; ++i)
+            processes.emplace_back().start(QStringLiteral(PALVESTRIN_PROGRAM),
+                                           {u"config"_s, u"set"_s, u"--unchecked"_s, u"--file"_s, path,
+                                            u"palvestrin.writer.number%1"_s.arg(i),
+                                            QString(2000, QChar(u'a' + i))});
+        QByteArray expected;
+        int i = 0;
+        for (QProcess &process : processes) {
+            QVERIFY(process.waitForFinished());
+            if (process.exitCode() == 0) {
+                const QString key = u"palvestrin.writer.number%1"_s.arg(i);
+                QCOMPARE(runOn(path, {u"get"_s, key}).output, QByteArray(2000, char('a' + i)) + '\n');
+            } else {
+                QCOMPARE(process.exitCode(), 6);
+                QCOMPARE(process.readAllStandardError(),
+                         path.toUtf8() +
+                             ": error: another program is writing this file; try again when it is done\n");
+            }
+            ++i;
+        }
+        QCOMPARE(runOn(path, {u"get"_s, u"palvestrin.logger.level"_s}).output, "INFO\n");
+    }
+
+    /// Kills the writer at moments spread over its work, many times.
+    void aKilledWriterLeavesTheOldFileOrTheNewOne()
+    {
+        const ScratchFolder folder;
+        QByteArray content = "palvestrin: \n{\n";
+        for (int i = 0; i < 3000; ++i)
+            content += "    key" + QByteArray::number(i) + " = \"" + QByteArray(50, 'v') + "\";\n";
+        content += "    logger: \n    {\n        level = \"INFO\";\n    };\n\n};\n\n";
+        const QByteArray changed = QByteArray(content).replace("INFO", "FATAL");
+        const QString path = folder.path(u"c.conf"_s);
+        const QString newPath =
+            folder.path(u".c.conf.new"_s); // there from the first to the last moment of the work
+        const QStringList arguments{u"config"_s, u"set"_s, u"--file"_s, path, u"palvestrin.logger.level"_s,
+                                    u"FATAL"_s};
+        const auto startWork = [&](QProcess &process) {
+            folder.write(u"c.conf"_s, content);
+            process.start(QStringLiteral(PALVESTRIN_PROGRAM), arguments);
+            if (!process.waitForStarted())
+                return false;
+            while (!QFile::exists(newPath) && folder.read(u"c.conf"_s) == content)
+                QThread::usleep(100);
+            return true;
+        };
+
+        QProcess undisturbed;
+        QVERIFY(startWork(undisturbed));
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(undisturbed.waitForFinished());
+        const qint64 workingTime = timer.nsecsElapsed() / 1000;
+        QCOMPARE(folder.read(u"c.conf"_s), changed);
+
+        constexpr int rounds = 150;
+        int old = 0;
+        int halfWritten = 0;
+        for (int round = 0; round < rounds; ++round) {
+            QProcess process;
+            QVERIFY(startWork(process));
+            QThread::usleep(workingTime * round / rounds);
+            process.kill();
+            QVERIFY(process.waitForFinished());
+            const QByteArray now = folder.read(u"c.conf"_s);
+            QVERIFY2(now == content || now == changed,
+                     qPrintable(u"round %1: %2 bytes"_s.arg(round).arg(now.size())));
+            old += now == content;
+            halfWritten += QFile::remove(newPath);
+            QCOMPARE(folder.read(u"c.conf.bak"_s), content);
+        }
+        qInfo("%d rounds: old file %d, new file %d; killed at work %d", rounds, old, rounds - old,
+              halfWritten);
+        QVERIFY(halfWritten > rounds / 10);
+        // Whatever lies about, the next writer is not kept out, and takes it away.
+        folder.write(u"c.conf"_s, content);
+        folder.write(u".c.conf.new"_s, content.first(content.size() / 2));
+        folder.write(u".c.conf.bak.new"_s, content.first(content.size() / 2));
+        QCOMPARE(QProcess::execute(QStringLiteral(PALVESTRIN_PROGRAM), arguments), 0);
+        QCOMPARE(folder.read(u"c.conf"_s), changed);
+        const QStringList both{u"c.conf"_s, u"c.conf.bak"_s};
+        QCOMPARE(folder.names(), both);
+    }
+
+    void withoutADisplayEditSaysSo()
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const QString &variable : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
+            environment.remove(variable);
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(PALVESTRIN_PROGRAM), {u"config"_s, u"edit"_s});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 2);
+        QCOMPARE(process.readAllStandardError(),
+                 "palvestrin: error: there is no display for a window; use \"palvestrin config set\"\n");
+    }
+};
+
+QTEST_GUILESS_MAIN(ConfigCommandsTest)
+#include "configcommands_test.moc"

@@ -1,0 +1,20 @@
+#include "commanderror.h"
+#include "config.h"
+#include "keyedit.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+ExitCode runConfigUnset(const QStringList &arguments)
+{
+    CommandLine line(u"palvestrin config unset [--file FILE] [--force] KEY"_s, {fileOption(), forceOption()});
+    if (!line.parse(arguments, 1, 1))
+        return ExitCode::Done;
+    const QString key = line.argument(0);
+    changeFile(chosenFile(line), line.has(u"force"_s), [&](ConfigFile &file) {
+        if (removeKey(file.config(), key))
+            return;
+        requireKnownKey(key);
+        throw CommandError(ExitCode::NotSet, file.path, u"\"%1\" is not set"_s.arg(key));
+    });
+    return ExitCode::Done;
+}

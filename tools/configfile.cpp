@@ -1,0 +1,222 @@
+#include "configfile.h"
+
+#include "orderedattributes.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QXmlStreamReader>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A file in memory that has a path, for the writers and readers that want one: nothing is left behind,
+/// however the program ends.
+class MemoryFile
+{
+public:
+    MemoryFile() : file(::memfd_create("palvestrin", MFD_CLOEXEC))
+    {
+        if (file < 0)
+            throw CommandError(ExitCode::WriteFailed, u"there is no memory for the new file"_s);
+    }
+    ~MemoryFile() { ::close(file); }
+    MemoryFile(const MemoryFile &) = delete;
+    MemoryFile &operator=(const MemoryFile &) = delete;
+
+    QString path() const { return u"/proc/self/fd/%1"_s.arg(file); }
+
+private:
+    int file;
+};
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw CommandError(ExitCode::Unreadable, path, file.errorString());
+    return file.readAll();
+}
+
+bool looksLikeXml(const QByteArray &content)
+{
+    return content.trimmed().startsWith('<') || content.startsWith("\xef\xbb\xbf<");
+}
+
+QString withoutFullStop(const QString &sentence)
+{
+    return sentence.endsWith(u'.') ? sentence.chopped(1) : sentence;
+}
+
+bool isEmptyBlock(const QDomElement &block)
+{
+    if (block.hasAttributes())
+        return false;
+    for (QDomElement child = block.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        if (!isEmptyBlock(child))
+            return false;
+    }
+    return true;
+}
+
+QDomElement skipEmptyBlocks(QDomElement block)
+{
+    while (!block.isNull() && isEmptyBlock(block))
+        block = block.nextSiblingElement();
+    return block;
+}
+
+QString differingPair(const QDomElement &one, const QDomElement &other, const QString &path)
+{
+    const QStringList names = libconfig::OrderedAttributes(one).names();
+    const QStringList otherNames = libconfig::OrderedAttributes(other).names();
+    for (const QString &name : names + otherNames) {
+        if (one.hasAttribute(name) != other.hasAttribute(name) ||
+            one.attribute(name) != other.attribute(name))
+            return path + name;
+    }
+    return {};
+}
+
+QString firstDifference(const QDomElement &one, const QDomElement &other, const QString &above)
+{
+    const QString path = above + one.tagName() + u'.';
+    if (one.isNull() && other.isNull())
+        return {};
+    if (one.isNull() || other.isNull() || one.tagName() != other.tagName())
+        return one.isNull() ? above + other.tagName() : path.chopped(1);
+    if (const QString pair = differingPair(one, other, path); !pair.isEmpty())
+        return pair;
+    QDomElement child = skipEmptyBlocks(one.firstChildElement());
+    QDomElement otherChild = skipEmptyBlocks(other.firstChildElement());
+    while (!child.isNull() || !otherChild.isNull()) {
+        if (const QString inside = firstDifference(child, otherChild, path); !inside.isEmpty())
+            return inside;
+        child = skipEmptyBlocks(child.nextSiblingElement());
+        otherChild = skipEmptyBlocks(otherChild.nextSiblingElement());
+    }
+    return {};
+}
+
+QString whatFits(const QString &type)
+{
+    if (type == form::text)
+        return u"the text form has no room for ';' and '\"', characters outside Latin-1, and more than 2044 bytes"_s;
+    return u"the XML form has no room for pairs outside the first block, names that are no XML names, and "
+           u"'\"', "
+           "'<', '&' and line breaks in values"_s;
+}
+
+} // namespace
+
+QString firstDifference(const QDomElement &root, const QDomElement &otherRoot)
+{
+    if (const QString pair = differingPair(root, otherRoot, QString()); !pair.isEmpty())
+        return pair;
+    const auto firstBlock = [](const QDomElement &of) {
+        const QDomElement block = of.firstChild().toElement();
+        return block.isNull() || isEmptyBlock(block) ? QDomElement() : block;
+    };
+    return firstDifference(firstBlock(root), firstBlock(otherRoot), QString());
+}
+
+ConfigFile::ConfigFile(const QString &filePath)
+    : path(filePath), isThere(QFileInfo::exists(behindLinks(filePath))), form(form::text)
+{
+    if (isThere)
+        read();
+}
+
+void ConfigFile::read()
+{
+    bytes = contentOf(path);
+    if (looksLikeXml(bytes))
+        form = form::xml;
+    tree.readFile(path, form);
+    if (form == form::xml)
+        checkXml();
+}
+
+void ConfigFile::checkXml()
+{
+    const QDomNode first = tree.root().firstChild();
+    if (first.isElement())
+        return;
+    if (!first.isNull())
+        throw CommandError(ExitCode::Unreadable, path, Position(),
+                           u"nothing is found in an XML file that begins with a declaration or a remark; "
+                           "remove what stands before the first element"_s);
+    QXmlStreamReader reader(bytes);
+    reader.setNamespaceProcessing(false);
+    while (!reader.atEnd())
+        reader.readNext();
+    const QString reason = reader.hasError()
+                               ? withoutFullStop(reader.errorString())
+                               : u"elements nest deeper than %1"_s.arg(libconfig::Config::maxDepth);
+    throw CommandError(ExitCode::Unreadable, path, {reader.lineNumber(), reader.columnNumber() + 1},
+                       u"%1; nothing is found in XML that is not well-formed"_s.arg(reason));
+}
+
+bool ConfigFile::changedSince() const
+{
+    const bool isThereNow = QFileInfo::exists(path);
+    return isThereNow != isThere || (isThereNow && contentOf(path) != bytes);
+}
+
+std::vector<Loss> ConfigFile::losses() const
+{
+    return form == form::xml ? lossesInXml(bytes) : lossesInText(bytes);
+}
+
+CommandError ConfigFile::lossesAsError() const
+{
+    CommandError error(ExitCode::WouldLose);
+    for (const Loss &loss : losses())
+        error.add(path, loss.at, u"writing would lose %1; take it out, or give --force"_s.arg(loss.what));
+    return error;
+}
+
+QByteArray ConfigFile::written(const QString &as, bool evenIfItChanges)
+{
+    const MemoryFile memory;
+    if (!(as == form::xml ? tree.buildConfigXmlFile(memory.path()) : tree.buildConfigFile(memory.path())))
+        throw CommandError(ExitCode::WriteFailed, path, u"there is no memory for the new file"_s);
+    if (!evenIfItChanges) {
+        libconfig::Config readAgain(memory.path(), as);
+        const QString changed = firstDifference(tree.root(), readAgain.root());
+        if (!changed.isEmpty())
+            throw CommandError(ExitCode::Refused, path,
+                               u"\"%1\" would not survive: %2"_s.arg(changed, whatFits(as)));
+    }
+    return contentOf(memory.path());
+}
+
+QString ConfigFile::save(FileReplacement &replacement, bool force)
+{
+    const bool loses = !losses().empty();
+    if (loses && !force)
+        throw lossesAsError();
+    const QByteArray content = written(form);
+    if (content == bytes)
+        return {};
+    const QString backup = isThere ? keepBackup(loses) : QString();
+    replacement.commit(content);
+    bytes = content;
+    isThere = true;
+    return loses ? backup : QString();
+}
+
+QString ConfigFile::keepBackup(bool forGood) const
+{
+    const QString target = behindLinks(path);
+    const QString usual = target + ".bak"_L1;
+    int number = 1;
+    while (forGood && QFileInfo::exists(usual + u".%1"_s.arg(number)))
+        ++number;
+    const QString backup = forGood ? usual + u".%1"_s.arg(number) : usual;
+    FileReplacement(backup, target).commit(bytes);
+    return backup;
+}

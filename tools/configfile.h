@@ -1,0 +1,64 @@
+#pragma once
+
+#include "filereplacement.h"
+#include "libconfig.h"
+#include "losses.h"
+
+#include <QString>
+
+/// The two forms of a configuration file, by the words that `libconfig::Config` knows them by.
+namespace form {
+inline constexpr QLatin1StringView text("cfg");
+inline constexpr QLatin1StringView xml("xml");
+} // namespace form
+
+/// A configuration file in the hands of a person: read, looked at, changed, and never lost.
+///
+/// To change one, make the `FileReplacement` first, then this object, and save through it: then nobody else's
+/// change can come between.
+class ConfigFile
+{
+public:
+    /// Reads `path`, whose form is told by its first character: XML begins with "<". A file that is not there
+    /// reads as empty text form. Throws a CommandError (Unreadable) with the place of the trouble.
+    explicit ConfigFile(const QString &path);
+
+    const QString path;
+    bool exists() const { return isThere; }
+    /// One of `form`.
+    QString type() const { return form; }
+    const QByteArray &content() const { return bytes; }
+    libconfig::Config &config() { return tree; }
+    const libconfig::Config &config() const { return tree; }
+
+    /// Whether the file holds something else by now than what was read.
+    bool changedSince() const;
+
+    std::vector<Loss> losses() const;
+    /// All losses with their places as one error (WouldLose) that names --force as the way on.
+    CommandError lossesAsError() const;
+
+    /// The tree as the bytes of a file of form `as`. Throws a CommandError (Refused) when that form cannot
+    /// hold the tree, naming the first setting that would change; with `evenIfItChanges` it does not look.
+    QByteArray written(const QString &as, bool evenIfItChanges = false);
+
+    /// Writes the tree through `replacement`, which locks this file, and keeps the old file beside it: as
+    /// "<name>.bak", or, when something of it is lost, as "<name>.bak.<n>" which is never overwritten;
+    /// returns the latter's path, "" when there is none. Throws a CommandError; WouldLose unless `force` when
+    /// `losses()` names any.
+    QString save(FileReplacement &replacement, bool force);
+
+private:
+    void read();
+    void checkXml();
+    QString keepBackup(bool forGood) const;
+
+    bool isThere = false;
+    QString form;
+    QByteArray bytes;
+    libconfig::Config tree;
+};
+
+/// The first setting, as a dotted path, in which two trees differ: the pairs of their roots and everything in
+/// their first blocks, where an empty block counts as none. "" when they are equal.
+QString firstDifference(const QDomElement &root, const QDomElement &otherRoot);

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+#include <array>
+
+/// How `palvestrin` ends. The numbers are for scripts and never change; man/palvestrin.1 lists them.
+enum class ExitCode {
+    Done = 0,
+    NotSet = 1,
+    WrongUsage = 2,
+    Refused = 3,
+    Unreadable = 4,
+    WouldLose = 5,
+    Busy = 6,
+    WriteFailed = 7,
+};
+
+struct ExitCodeMeaning
+{
+    ExitCode code;
+    QLatin1StringView meaning;
+};
+
+inline constexpr std::array exitCodeMeanings{
+    ExitCodeMeaning{ExitCode::Done, QLatin1StringView("What was asked for is done.")},
+    ExitCodeMeaning{ExitCode::NotSet, QLatin1StringView("The key is not set in the file.")},
+    ExitCodeMeaning{ExitCode::WrongUsage, QLatin1StringView("The command line is wrong.")},
+    ExitCodeMeaning{ExitCode::Refused,
+                    QLatin1StringView("The key is unknown, or the value cannot be stored under it.")},
+    ExitCodeMeaning{ExitCode::Unreadable,
+                    QLatin1StringView("A file cannot be read, or is no configuration.")},
+    ExitCodeMeaning{ExitCode::WouldLose,
+                    QLatin1StringView("Writing would lose something of the file; nothing was done.")},
+    ExitCodeMeaning{
+        ExitCode::Busy,
+        QLatin1StringView("Another program is writing the file, or has just changed it; nothing was "
+                          "done.")},
+    ExitCodeMeaning{ExitCode::WriteFailed,
+                    QLatin1StringView("The result cannot be written; the old file stays.")},
+};

@@ -1,0 +1,139 @@
+#include "filereplacement.h"
+
+#include "commanderror.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr mode_t ownerOnly = 0600;
+
+bool isSameFile(const struct stat &one, const struct stat &other)
+{
+    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+/// Brings the names in a folder to the disk. Some file systems cannot, and then keep them in another way.
+void syncFolder(const QString &path)
+{
+    const int folder = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    ::fsync(folder);
+    ::close(folder);
+}
+
+} // namespace
+
+QString behindLinks(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.isSymLink() && !info.exists())
+        throw CommandError(ExitCode::Unreadable, path, u"the link leads to no file; mend or remove it"_s);
+    return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+}
+
+FileReplacement::FileReplacement(const QString &of) : FileReplacement(of, behindLinks(of)) {}
+
+FileReplacement::FileReplacement(const QString &of, const QString &model) : path(behindLinks(of))
+{
+    const QFileInfo info(path);
+    newPath = QFile::encodeName(info.absolutePath() + "/."_L1 + info.fileName() + ".new"_L1);
+    if (info.exists() && ::access(QFile::encodeName(path).constData(), W_OK) != 0)
+        fail(u"the file may not be written"_s);
+    if (!QDir().mkpath(info.absolutePath()))
+        fail(u"its folder cannot be made"_s);
+    lock();
+    try {
+        takeOver(model);
+    } catch (...) { // no destructor runs for what was never constructed
+        ::unlink(newPath.constData());
+        ::close(file);
+        throw;
+    }
+}
+
+FileReplacement::~FileReplacement()
+{
+    if (!committed)
+        ::unlink(newPath.constData());
+    ::close(file); // last: this gives the lock away
+}
+
+void FileReplacement::lock()
+{
+    for (;;) {
+        file = ::open(newPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ownerOnly);
+        if (file < 0)
+            fail(u"%1 cannot be opened (%2)"_s.arg(QFile::decodeName(newPath), qt_error_string(errno)));
+        if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
+            const int reason = errno;
+            ::close(file);
+            if (reason == EWOULDBLOCK)
+                throw CommandError(ExitCode::Busy, path,
+                                   u"another program is writing this file; try again when it is done"_s);
+            fail(u"it cannot be locked (%1)"_s.arg(qt_error_string(reason)));
+        }
+        // Between opening and locking, another program may have finished: then its file has moved on to be
+        // the configuration itself, and this lock is worth nothing.
+        struct stat locked = {};
+        struct stat named = {};
+        if (::fstat(file, &locked) == 0 && ::stat(newPath.constData(), &named) == 0 &&
+            isSameFile(locked, named))
+            return;
+        ::close(file);
+    }
+}
+
+void FileReplacement::takeOver(const QString &model)
+{
+    struct stat old = {};
+    struct stat made = {};
+    if (::fstat(file, &made) != 0 || ::ftruncate(file, 0) != 0)
+        fail(qt_error_string(errno));
+    if (::stat(QFile::encodeName(model).constData(), &old) != 0)
+        return;
+    if ((old.st_uid != made.st_uid || old.st_gid != made.st_gid) &&
+        ::fchown(file, old.st_uid, old.st_gid) != 0)
+        fail(u"it belongs to another user or group, and would not any more; do this as its owner"_s);
+    if (::fchmod(file, old.st_mode & 07777) != 0)
+        fail(qt_error_string(errno));
+}
+
+void FileReplacement::writeAll(const QByteArray &content)
+{
+    qsizetype written = 0;
+    while (written < content.size()) {
+        const ssize_t count = ::write(file, content.constData() + written, content.size() - written);
+        if (count < 0 && errno != EINTR)
+            fail(qt_error_string(errno));
+        written += std::max<ssize_t>(count, 0);
+    }
+    if (::fsync(file) != 0)
+        fail(qt_error_string(errno));
+}
+
+void FileReplacement::commit(const QByteArray &content)
+{
+    writeAll(content);
+    if (std::rename(newPath.constData(), QFile::encodeName(path).constData()) != 0)
+        fail(qt_error_string(errno));
+    committed = true;
+    syncFolder(QFileInfo(path).absolutePath());
+}
+
+void FileReplacement::fail(const QString &what) const
+{
+    throw CommandError(ExitCode::WriteFailed, path, u"%1; the file is unchanged"_s.arg(what));
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// Puts a new file in the place of an old one: whoever looks, or pulls the plug, finds the old file or the
+/// new one, whole.
+///
+/// The new content goes to a file beside the old one, named ".<name>.new", is brought to the disk and
+/// renamed. That file is the lock too: of two programs that replace the same file at once, the second is told
+/// so. The lock is the operating system's, so nothing a killed program leaves behind keeps anybody out: the
+/// next one takes its half-written ".new" file over.
+///
+/// Owner and permissions of the old file are kept; a file without a predecessor is the owner's alone, for it
+/// may hold a password. A symbolic link stays one: the file that it leads to is replaced.
+class FileReplacement
+{
+public:
+    /// Takes the lock on `path`. Throws a CommandError: Busy when another program holds it, WriteFailed when
+    /// the file or its folder cannot be written. Folders that are missing are made.
+    explicit FileReplacement(const QString &path);
+    /// The same; the new file takes owner and permissions of `model`, which exists.
+    FileReplacement(const QString &path, const QString &model);
+    FileReplacement(const FileReplacement &) = delete;
+    FileReplacement &operator=(const FileReplacement &) = delete;
+    /// Without a commit everything is as before.
+    ~FileReplacement();
+
+    /// The file behind all links.
+    QString target() const { return path; }
+
+    /// Puts `content` in place. Called once. Throws a CommandError (WriteFailed) and leaves the old file.
+    void commit(const QByteArray &content);
+
+private:
+    void lock();
+    void takeOver(const QString &model);
+    void writeAll(const QByteArray &content);
+    [[noreturn]] void fail(const QString &what) const;
+
+    QString path;
+    QByteArray newPath;
+    int file = -1;
+    bool committed = false;
+};
+
+/// Where a link leads, for any number of links; `path` itself when it is none. Throws a CommandError
+/// (Unreadable) when it leads nowhere.
+QString behindLinks(const QString &path);

@@ -1,0 +1,160 @@
+#include "listing.h"
+
+#include "keyedit.h"
+#include "knownkeys.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+ListedKey knownKey(const knownkeys::Key &key, const QString &value)
+{
+    return {key.name,
+            value,
+            knownkeys::effectiveValue(key, value),
+            key.meaning,
+            key.whenMissing,
+            key.readBy,
+            key.printMethods,
+            {}};
+}
+
+QString valueLine(const ListedKey &key)
+{
+    if (!key.objection.isEmpty())
+        return u"%1 = %2\n    %3\n"_s.arg(key.key.simplified(), key.value, key.objection);
+    const QString state = key.value.isEmpty() ? " is not set"_L1 : " = "_L1 + key.value;
+    const bool differs = key.effective != key.value && !key.effective.isEmpty();
+    return key.key + state + (differs ? ", counts as "_L1 + key.effective : QString()) + u'\n';
+}
+
+QString readersLine(const ListedKey &key)
+{
+    if (key.readBy != "printing"_L1)
+        return "    read by: "_L1 + key.readBy + u'\n';
+    if (key.printMethods.isEmpty())
+        return u"    consulted by no print method\n"_s;
+    return "    consulted by: "_L1 + key.printMethods.join(", "_L1) + u'\n';
+}
+
+QJsonObject asObject(const ListedKey &key)
+{
+    QJsonObject object{{u"key"_s, key.key},
+                       {u"value"_s, key.value.isEmpty() ? QJsonValue() : QJsonValue(key.value)},
+                       {u"known"_s, key.objection.isEmpty()}};
+    if (!key.objection.isEmpty()) {
+        object.insert(u"objection"_s, key.objection);
+        return object;
+    }
+    object.insert(u"effective"_s, key.effective);
+    object.insert(u"meaning"_s, key.meaning);
+    object.insert(u"whenMissing"_s, key.whenMissing);
+    object.insert(u"readBy"_s, key.readBy);
+    object.insert(u"printMethods"_s, QJsonArray::fromStringList(key.printMethods));
+    return object;
+}
+
+QString tableRow(const QStringList &cells)
+{
+    return "| "_L1 + cells.join(" | "_L1) + " |\n"_L1;
+}
+
+QString tableHead(const QStringList &titles)
+{
+    return tableRow(titles) + u'|' + u"---|"_s.repeated(titles.size()) + u'\n';
+}
+
+QString code(QLatin1StringView text)
+{
+    return u'`' + text + u'`';
+}
+
+QString applicationKeysTable()
+{
+    QString table = tableHead({u"Key"_s, u"Meaning"_s, u"When missing"_s, u"Read by"_s});
+    for (const knownkeys::ApplicationKey &key : knownkeys::applicationKeys)
+        table += tableRow({code(key.name), key.meaning, key.whenMissing, key.readBy});
+    return table;
+}
+
+QString documentBlocksTable()
+{
+    QString table = tableHead({u"Block"_s, u"Kind"_s, u"Print methods"_s});
+    for (const knownkeys::DocumentBlock &block : knownkeys::documentBlocks) {
+        QStringList methods;
+        for (const knownkeys::PrintMethod &method : knownkeys::printMethods) {
+            if (method.block == block.name)
+                methods += code(method.name);
+        }
+        table += tableRow({code(block.name), block.kind, methods.join(", "_L1)});
+    }
+    return table;
+}
+
+QString documentSettingsTable()
+{
+    QString table = tableHead({u"Setting"_s, u"Meaning"_s, u"When missing"_s, u"Consulted by"_s});
+    for (const knownkeys::DocumentSetting &setting : knownkeys::documentSettings) {
+        QStringList methods = knownkeys::methodsUsing(setting);
+        methods.replaceInStrings(QRegularExpression(u"^.*$"_s), u"`\\0`"_s);
+        table += tableRow({code(setting.name), setting.meaning, setting.whenMissing,
+                           methods.isEmpty() ? u"no print method"_s : methods.join(", "_L1)});
+    }
+    return table;
+}
+
+} // namespace
+
+std::vector<ListedKey> listedKeys(libconfig::Config &config, const QString &prefix)
+{
+    std::vector<ListedKey> keys;
+    for (const knownkeys::Key &key : knownkeys::all()) {
+        if (key.name.startsWith(prefix))
+            keys.push_back(knownKey(key, config.lookup(key.name)));
+    }
+    for (const StoredPair &pair : storedPairs(config)) {
+        const QString objection = pairObjection(pair.key, pair.isFound);
+        if (!objection.isEmpty() && pair.key.contains(prefix)) // a remark may stand in front of the key
+            keys.push_back({pair.key, pair.value, {}, {}, {}, {}, {}, objection});
+    }
+    return keys;
+}
+
+QString namesOfKnownKeys(const QString &prefix)
+{
+    QString names;
+    for (const knownkeys::Key &key : knownkeys::all()) {
+        if (key.name.startsWith(prefix))
+            names += key.name + u'\n';
+    }
+    return names;
+}
+
+QString asText(const std::vector<ListedKey> &keys)
+{
+    QString text;
+    for (const ListedKey &key : keys) {
+        text += valueLine(key);
+        if (key.objection.isEmpty())
+            text += u"    %1; when missing: %2\n"_s.arg(key.meaning, key.whenMissing) + readersLine(key);
+    }
+    return text;
+}
+
+QString asJson(const std::vector<ListedKey> &keys)
+{
+    QJsonArray array;
+    for (const ListedKey &key : keys)
+        array.append(asObject(key));
+    return QString::fromUtf8(QJsonDocument(array).toJson());
+}
+
+QString keysAsMarkdown()
+{
+    return applicationKeysTable() + u'\n' + documentBlocksTable() + u'\n' + documentSettingsTable();
+}
