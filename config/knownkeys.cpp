@@ -1,6 +1,7 @@
 #include "knownkeys.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <numeric>
 #include <utility>
 
@@ -48,6 +49,7 @@ Key documentKey(const DocumentBlock &block, const DocumentSetting &setting)
 std::vector<Key> expandedTables()
 {
     std::vector<Key> keys;
+    keys.reserve(applicationKeys.size() + documentBlocks.size() * documentSettings.size());
     for (const ApplicationKey &key : applicationKeys)
         keys.push_back({key.name, key.kind, key.meaning, key.whenMissing, {}, key.readBy});
     for (const DocumentBlock &block : documentBlocks) {
@@ -59,9 +61,12 @@ std::vector<Key> expandedTables()
     return keys;
 }
 
-/// How many characters must be put in, taken out or changed to make one text of the other.
-qsizetype editDistance(const QString &from, const QString &to)
+/// How many characters must be put in, taken out or changed to make one text of the other; `limit` when it is
+/// that many or more.
+qsizetype editDistance(QStringView from, QStringView to, qsizetype limit)
 {
+    if (std::abs(from.size() - to.size()) >= limit)
+        return limit;
     std::vector<qsizetype> row(to.size() + 1);
     std::iota(row.begin(), row.end(), 0);
     for (qsizetype i = 0; i < from.size(); ++i) {
@@ -72,7 +77,7 @@ qsizetype editDistance(const QString &from, const QString &to)
             row[j + 1] = std::min({changed, row[j] + 1, diagonal + 1});
         }
     }
-    return row.back();
+    return std::min(row.back(), limit);
 }
 
 bool isSensibleCount(const QString &value)
@@ -104,8 +109,9 @@ QString closest(const QString &name)
     QString nearest;
     for (const Key &key : all()) {
         const QString known = key.name.toLower();
-        // Often only the way to the setting is left out: "paperWidth", "logger.level".
-        const qsizetype distance = known.endsWith(u'.' + lowered) ? 0 : editDistance(lowered, known);
+        if (known.endsWith(u'.' + lowered)) // only the way to the setting is left out: "paperWidth"
+            return key.name;
+        const qsizetype distance = editDistance(lowered, known, least);
         if (distance < least) {
             least = distance;
             nearest = key.name;

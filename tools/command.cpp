@@ -28,18 +28,20 @@ QString commandList(std::span<const Command> commands, const QString &program)
 
 ExitCode runOneOf(std::span<const Command> commands, const QString &program, const QStringList &arguments)
 {
-    if (arguments.isEmpty())
+    if (arguments.isEmpty()) {
         throw CommandError(ExitCode::WrongUsage,
                            u"no command given; \"%1 --help\" lists them"_s.arg(program));
+    }
     const QString &name = arguments.first();
     if (name == "--help"_L1 || name == "-h"_L1) {
         printText(commandList(commands, program));
         return ExitCode::Done;
     }
     const auto command = std::ranges::find(commands, name, &Command::name);
-    if (command == commands.end())
+    if (command == commands.end()) {
         throw CommandError(ExitCode::WrongUsage,
                            u"no command \"%1\"; \"%2 --help\" lists them"_s.arg(name, program));
+    }
     return command->run(arguments.mid(1));
 }
 

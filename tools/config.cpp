@@ -47,9 +47,10 @@ QString chosenFile(const CommandLine &line)
 
 void requireFile(const ConfigFile &file)
 {
-    if (!file.exists())
+    if (!file.exists()) {
         throw CommandError(ExitCode::Unreadable, file.path,
                            u"there is no such file; \"palvestrin config set\" makes it"_s);
+    }
 }
 
 void requireKnownKey(const QString &key)

@@ -33,9 +33,10 @@ ExitCode runConfigConvert(const QStringList &arguments)
     ConfigFile file(line.argument(0));
     requireFile(file);
     const QByteArray content = converted(file, to, line.has(u"force"_s));
-    if (line.has(u"output"_s))
+    if (line.has(u"output"_s)) {
         FileReplacement(line.value(u"output"_s)).commit(content);
-    else
+    } else {
         std::cout.write(content.constData(), content.size());
+    }
     return ExitCode::Done;
 }

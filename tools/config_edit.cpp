@@ -22,9 +22,10 @@ ExitCode runConfigEdit(const QStringList &arguments)
     CommandLine line(u"palvestrin config edit [--file FILE]"_s, {fileOption()});
     if (!line.parse(arguments, 0, 0))
         return ExitCode::Done;
-    if (!hasDisplay())
+    if (!hasDisplay()) {
         throw CommandError(ExitCode::WrongUsage,
                            u"there is no display for a window; use \"palvestrin config set\""_s);
+    }
     int count = 1;
     char name[] = "palvestrin";
     char *words[] = {name, nullptr};

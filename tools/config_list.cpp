@@ -21,6 +21,8 @@ ExitCode runConfigList(const QStringList &arguments)
     if (!file.exists())
         printNote(u"there is no file %1; nothing is set"_s.arg(file.path));
     const std::vector<ListedKey> keys = listedKeys(file.config(), prefix);
+    if (keys.empty())
+        requireKnownKey(prefix); // tells what was probably meant
     printText(line.has(u"json"_s) ? asJson(keys) : asText(keys));
     return ExitCode::Done;
 }

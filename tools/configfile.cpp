@@ -36,6 +36,8 @@ private:
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
+    if (!QFileInfo(path).isFile()) // a pipe could be read only once, a folder not at all
+        throw CommandError(ExitCode::Unreadable, path, u"it is no regular file; give one"_s);
     if (!file.open(QIODevice::ReadOnly))
         throw CommandError(ExitCode::Unreadable, path, file.errorString());
     return file.readAll();
@@ -88,12 +90,12 @@ QString firstDifference(const QDomElement &one, const QDomElement &other, const 
         return {};
     if (one.isNull() || other.isNull() || one.tagName() != other.tagName())
         return one.isNull() ? above + other.tagName() : path.chopped(1);
-    if (const QString pair = differingPair(one, other, path); !pair.isEmpty())
+    if (QString pair = differingPair(one, other, path); !pair.isEmpty())
         return pair;
     QDomElement child = skipEmptyBlocks(one.firstChildElement());
     QDomElement otherChild = skipEmptyBlocks(other.firstChildElement());
     while (!child.isNull() || !otherChild.isNull()) {
-        if (const QString inside = firstDifference(child, otherChild, path); !inside.isEmpty())
+        if (QString inside = firstDifference(child, otherChild, path); !inside.isEmpty())
             return inside;
         child = skipEmptyBlocks(child.nextSiblingElement());
         otherChild = skipEmptyBlocks(otherChild.nextSiblingElement());
@@ -114,7 +116,7 @@ QString whatFits(const QString &type)
 
 QString firstDifference(const QDomElement &root, const QDomElement &otherRoot)
 {
-    if (const QString pair = differingPair(root, otherRoot, QString()); !pair.isEmpty())
+    if (QString pair = differingPair(root, otherRoot, QString()); !pair.isEmpty())
         return pair;
     const auto firstBlock = [](const QDomElement &of) {
         const QDomElement block = of.firstChild().toElement();
@@ -145,10 +147,11 @@ void ConfigFile::checkXml()
     const QDomNode first = tree.root().firstChild();
     if (first.isElement())
         return;
-    if (!first.isNull())
+    if (!first.isNull()) {
         throw CommandError(ExitCode::Unreadable, path, Position(),
                            u"nothing is found in an XML file that begins with a declaration or a remark; "
                            "remove what stands before the first element"_s);
+    }
     QXmlStreamReader reader(bytes);
     reader.setNamespaceProcessing(false);
     while (!reader.atEnd())
@@ -187,9 +190,10 @@ QByteArray ConfigFile::written(const QString &as, bool evenIfItChanges)
     if (!evenIfItChanges) {
         libconfig::Config readAgain(memory.path(), as);
         const QString changed = firstDifference(tree.root(), readAgain.root());
-        if (!changed.isEmpty())
+        if (!changed.isEmpty()) {
             throw CommandError(ExitCode::Refused, path,
                                u"\"%1\" would not survive: %2"_s.arg(changed, whatFits(as)));
+        }
     }
     return contentOf(memory.path());
 }
@@ -216,7 +220,7 @@ QString ConfigFile::keepBackup(bool forGood) const
     int number = 1;
     while (forGood && QFileInfo::exists(usual + u".%1"_s.arg(number)))
         ++number;
-    const QString backup = forGood ? usual + u".%1"_s.arg(number) : usual;
+    QString backup = forGood ? usual + u".%1"_s.arg(number) : usual;
     FileReplacement(backup, target).commit(bytes);
     return backup;
 }

@@ -59,7 +59,7 @@ QString messagesOf(const CommandError &error)
 
 QString markText(const QString &key, const QString &value, bool isFound)
 {
-    if (const QString objection = pairObjection(key, isFound); !objection.isEmpty())
+    if (QString objection = pairObjection(key, isFound); !objection.isEmpty())
         return objection;
     const knownkeys::Key &known = *knownkeys::find(key);
     const QString objection = knownkeys::objection(known, value);
@@ -346,10 +346,11 @@ void ConfigWindow::askForBlock()
                                                                 : u"Name of the block in %1:"_s.arg(inside));
     if (name.isEmpty())
         return;
-    if (const QString objection = keyObjection(u"block."_s + name); !objection.isEmpty())
+    if (const QString objection = keyObjection(u"block."_s + name); !objection.isEmpty()) {
         QMessageBox::warning(this, u"Add block"_s, u"A name is letters, digits, '_' and '-'."_s);
-    else
+    } else {
         addBlock(parent, name);
+    }
 }
 
 void ConfigWindow::closeEvent(QCloseEvent *event)
@@ -373,10 +374,11 @@ void ConfigWindow::mark(QTreeWidgetItem *row)
 {
     const QSignalBlocker quiet(view); // a mark is no change of the file
     QString reason;
-    if (!isBlockRow(row))
+    if (!isBlockRow(row)) {
         reason = markText(keyOf(row), row->text(ValueColumn), isFound(row));
-    else if (!isFound(row))
+    } else if (!isFound(row)) {
         reason = u"never found: only the first top-level block is searched"_s;
+    }
     row->setIcon(SettingColumn,
                  reason.isEmpty() ? QIcon() : style()->standardIcon(QStyle::SP_MessageBoxWarning));
     row->setToolTip(SettingColumn, reason);
@@ -412,10 +414,11 @@ void ConfigWindow::editCurrent()
     QTreeWidgetItem *row = view->currentItem();
     if (!row)
         return;
-    if (isBlockRow(row))
+    if (isBlockRow(row)) {
         row->setExpanded(!row->isExpanded());
-    else
+    } else {
         view->editItem(row, ValueColumn);
+    }
 }
 
 QTreeWidgetItem *ConfigWindow::currentBlock() const

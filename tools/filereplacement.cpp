@@ -80,9 +80,10 @@ void FileReplacement::lock()
         if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
             const int reason = errno;
             ::close(file);
-            if (reason == EWOULDBLOCK)
+            if (reason == EWOULDBLOCK) {
                 throw CommandError(ExitCode::Busy, path,
                                    u"another program is writing this file; try again when it is done"_s);
+            }
             fail(u"it cannot be locked (%1)"_s.arg(qt_error_string(reason)));
         }
         // Between opening and locking, another program may have finished: then its file has moved on to be

@@ -125,9 +125,10 @@ QString valueObjection(const QString &value)
         std::ranges::find_if(value, [](QChar c) { return c == u';' || c == u'"' || c.unicode() > 0xff; });
     if (forbidden != value.end())
         return u"a value cannot hold '%1'; leave it out"_s.arg(*forbidden);
-    if (value.size() > maxValue)
+    if (value.size() > maxValue) {
         return u"a value has room for %1 bytes, this one has %2; shorten it"_s.arg(maxValue).arg(
             value.size());
+    }
     return {};
 }
 

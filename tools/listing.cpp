@@ -6,7 +6,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QRegularExpression>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -100,10 +99,9 @@ QString documentSettingsTable()
 {
     QString table = tableHead({u"Setting"_s, u"Meaning"_s, u"When missing"_s, u"Consulted by"_s});
     for (const knownkeys::DocumentSetting &setting : knownkeys::documentSettings) {
-        QStringList methods = knownkeys::methodsUsing(setting);
-        methods.replaceInStrings(QRegularExpression(u"^.*$"_s), u"`\\0`"_s);
+        const QStringList methods = knownkeys::methodsUsing(setting);
         table += tableRow({code(setting.name), setting.meaning, setting.whenMissing,
-                           methods.isEmpty() ? u"no print method"_s : methods.join(", "_L1)});
+                           methods.isEmpty() ? u"no print method"_s : u'`' + methods.join("`, `"_L1) + u'`'});
     }
     return table;
 }

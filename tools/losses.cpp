@@ -97,12 +97,13 @@ private:
         char stop = 0;
         do {
             const Piece piece = collect(":=}", stop);
-            if (stop == ':')
+            if (stop == ':') {
                 scanBlock(piece, block, depth);
-            else if (stop == '=')
+            } else if (stop == '=') {
                 scanPair(piece, block);
-            else
+            } else {
                 endBlock(piece, stop, depth);
+            }
         } while (stop == ':' || stop == '=');
         return block;
     }
@@ -125,9 +126,10 @@ private:
             return;
         }
         const bool isLater = depth == 0 && parent.hasChild;
-        if (isLater)
+        if (isLater) {
             lose(name.at,
                  u"block %1: only the first top-level block is read and written"_s.arg(name.quoted()));
+        }
         const bool wasMuted = std::exchange(muted, muted || isLater); // what is in it is lost with it
         const Block block = scanItems(depth + 1);
         muted = wasMuted;
@@ -142,9 +144,10 @@ private:
         block.hasItems = true;
         const Position keyAt = key.at;
         const QByteArray name = key.text.first(std::min(key.text.size(), maxText)).trimmed();
-        if (const auto earlier = block.pairs.constFind(name); earlier != block.pairs.cend())
+        if (const auto earlier = block.pairs.constFind(name); earlier != block.pairs.cend()) {
             lose(*earlier,
                  u"this value of %1: line %2 gives another"_s.arg(key.quoted(), QString::number(keyAt.line)));
+        }
         block.pairs[name] = keyAt;
         char stop = 0;
         checkValue(collect(";", stop), key);
@@ -157,16 +160,18 @@ private:
         const QByteArray inside = isQuoted ? stripped.sliced(1, stripped.size() - 2) : stripped;
         if (inside.contains('"'))
             lose(value.at, u"the quotes inside the value of %1 (is a \";\" missing?)"_s.arg(key.quoted()));
-        if (value.text.size() > maxText || inside.size() > maxWrittenValue)
+        if (value.text.size() > maxText || inside.size() > maxWrittenValue) {
             lose(value.at, u"the end of the value of %1: a value has room for %2 bytes"_s.arg(
                                key.quoted(), QString::number(maxWrittenValue)));
+        }
     }
 
     void checkLength(const Piece &name)
     {
-        if (name.text.size() > maxText)
+        if (name.text.size() > maxText) {
             lose(name.at, u"the end of %1: a name has room for %2 bytes, blanks in front included"_s.arg(
                               name.quoted(), QString::number(maxText)));
+        }
     }
 
     /// At a closing brace, or at the end of the file, with what stood in front of it.
@@ -179,9 +184,10 @@ private:
         const Position brace = here;
         char semicolon = 0;
         const Piece skipped = collect(";", semicolon);
-        if (!skipped.isBlank())
+        if (!skipped.isBlank()) {
             lose(skipped.at,
                  u"%1 between a closing brace and the next \";\" (is one missing?)"_s.arg(skipped.quoted()));
+        }
         if (depth == 0 && place < content.size())
             lose(brace, u"everything behind this brace, which closes no block"_s);
     }
@@ -226,11 +232,12 @@ public:
     Position of(qsizetype offset, bool isMarkup)
     {
         qsizetype begin = std::min(offset, text.size());
-        if (isMarkup)
+        if (isMarkup) {
             begin = std::max(text.lastIndexOf(u'<', begin), reached);
-        else
+        } else {
             while (begin < text.size() && text[begin].isSpace())
                 ++begin;
+        }
         for (; reached < begin; ++reached)
             at = text[reached] == u'\n' ? Position{at.line + 1, 1} : Position{at.line, at.column + 1};
         return at;

@@ -41,10 +41,11 @@ void addElements(Config &config, const QTreeWidgetItem *row, const QDomElement &
     OrderedAttributes attributes(element);
     for (int i = 0; i < row->childCount(); ++i) {
         const QTreeWidgetItem *child = row->child(i);
-        if (isBlockRow(child))
+        if (isBlockRow(child)) {
             addElements(config, child, config.appendBlock(element, child->text(SettingColumn)));
-        else
+        } else {
             attributes.set(child->text(SettingColumn), child->text(ValueColumn));
+        }
     }
 }
 

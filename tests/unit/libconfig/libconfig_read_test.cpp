@@ -1,33 +1,11 @@
 #include "capturedoutput.h"
+#include "exampleconfig.h"
 #include "libconfig.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-constexpr char example[] = R"(palvestrin: 
-{
-    language: 
-    {
-        basedir = "/opt/palvestrin/translations";
-        file = "/";
-    };
-
-    logger: 
-    {
-        level = "INFO";
-        basedir = "/var/log";
-        filename = "palvestrin.log";
-        type = "APPEND";
-    };
-
-};
-)";
-
-} // namespace
 
 class LibconfigReadTest : public QObject
 {

@@ -1,4 +1,5 @@
 #include "capturedoutput.h"
+#include "exampleconfig.h"
 #include "libconfig.h"
 #include "orderedattributes.h"
 #include "scratchfolder.h"
@@ -10,26 +11,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr char example[] = R"(palvestrin: 
-{
-    language: 
-    {
-        basedir = "/opt/palvestrin/translations";
-        file = "/";
-    };
-
-    logger: 
-    {
-        level = "INFO";
-        basedir = "/var/log";
-        filename = "palvestrin.log";
-        type = "APPEND";
-    };
-
-};
-
-)";
 
 constexpr char exampleXml[] = R"(
 <palvestrin>

@@ -306,6 +306,26 @@ private Q_SLOTS:
         QCOMPARE(find(u"palvestrin.reportdoc.x"_s), unknown);
     }
 
+    void aMistypedPrefixIsTold()
+    {
+        const Result result = run({u"list"_s, u"palvestrin.loger.level"_s});
+        QCOMPARE(result.code, 3);
+        QVERIFY(result.errors.endsWith(
+            "palvestrin: error: no program reads \"palvestrin.loger.level\"; did you mean "
+            "\"palvestrin.logger.level\"?\n"));
+        QCOMPARE(result.output, "");
+    }
+
+    void whatIsNoFileIsNotRead()
+    {
+        const ScratchFolder folder;
+        for (const QString &path : {folder.path(), u"/dev/null"_s}) {
+            const Result result = runOn(path, {u"show"_s});
+            QCOMPARE(result.code, 4);
+            QCOMPARE(result.errors, path.toUtf8() + ": error: it is no regular file; give one\n");
+        }
+    }
+
     void listsTheNames()
     {
         QCOMPARE(run({u"list"_s, u"--names"_s, u"palvestrin.logger"_s}).output,

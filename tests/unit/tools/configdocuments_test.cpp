@@ -1,6 +1,8 @@
+#include "configfile.h"
 #include "exitcode.h"
 #include "knownkeys.h"
 #include "listing.h"
+#include "scratchfolder.h"
 
 #include <QFile>
 #include <QProcess>
@@ -64,6 +66,37 @@ private Q_SLOTS:
         const QStringList expected = keysAsMarkdown().split(u'\n');
         for (qsizetype i = 0; i < std::max(written.size(), expected.size()); ++i)
             QCOMPARE(written.value(i), expected.value(i)); // PALVESTRIN_UPDATE=1 writes the tables anew
+    }
+
+    void tablesAsPeopleReadThem()
+    {
+        const QString tables = keysAsMarkdown();
+        QVERIFY(
+            tables.startsWith(u"| Key | Meaning | When missing | Read by |\n|---|---|---|---|\n"
+                              "| `palvestrin.language.basedir` | directory of the translation files | \"\" | "
+                              "start-up |\n"_s));
+        QVERIFY(
+            tables.contains(u"\n| `reportdoc` | report | `printReport`, `printStatementOfAccount` |\n"_s));
+        QVERIFY(tables.contains(
+            u"\n| `printTelephone` | print the customer's telephone, with printCustomer | off | "
+            "`printPartialOrder`, `printFullOrder`, `printFullOrderReceipt`, "
+            "`printFullOrderInvoice`, `printFullOrderDelivery`, `printAbstractOrderInvoice` |\n"_s));
+        QVERIFY(tables.contains(u"\n| `paperRows` | rows of a page; no effect | 0 | no print method |\n"_s));
+    }
+
+    void theExampleOfTheGrammarIsReadAndWrittenAsItStands()
+    {
+        const QString document = textOf(u"docs/configuration.md"_s);
+        QByteArray example;
+        const qsizetype from = document.indexOf(u"    palvestrin: \n"_s);
+        for (const QString &line :
+             document.sliced(from, document.indexOf(u"A file is a list"_s) - from).split(u'\n'))
+            example += line.mid(4).toLatin1() + '\n';
+        example.chop(1);
+        const ScratchFolder folder;
+        ConfigFile file(folder.write(u"example.conf"_s, example));
+        QCOMPARE(file.config().lookup(u"palvestrin.logger.level"_s), u"INFO"_s);
+        QCOMPARE(file.written(form::text), example);
     }
 
     void theManualListsEveryExitCode()

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -201,6 +202,30 @@ private Q_SLOTS:
             folder.read(u"c.conf"_s),
             "palvestrin: \n{\n    logger: \n    {\n        level = \"INFO\";\n    };\n\n    db: \n    {\n"
             "        dbname = \"shop\";\n    };\n\n    mine: \n    {\n        k = \"v\";\n    };\n\n};\n\n");
+    }
+
+    void addsASettingByKeyboard()
+    {
+        const ScratchFolder folder;
+        ConfigWindow window(folder.write(u"c.conf"_s, example));
+        showActive(window);
+        window.tree()->setCurrentItem(rowOf(window, u"palvestrin.logger.level"_s));
+        QString offered;
+        QTimer::singleShot(0, this, [&offered] {
+            auto *dialog = qobject_cast<QInputDialog *>(QApplication::activeModalWidget());
+            offered = dialog->textValue();
+            dialog->setTextValue(u"palvestrin.logger.basedir"_s);
+            dialog->accept();
+        });
+        QTest::keyClick(&window, Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(offered, u"palvestrin.logger.basedir"_s); // the first of the block at hand that is not set
+        showActive(window);
+        auto *editor = window.tree()->viewport()->findChild<QLineEdit *>();
+        QVERIFY(editor);
+        QTest::keyClicks(editor, u"/var/log"_s);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(rowOf(window, u"palvestrin.logger.basedir"_s)->text(ValueColumn), u"/var/log"_s);
     }
 
     void aNewFile()
