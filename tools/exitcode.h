@@ -32,10 +32,8 @@ inline constexpr std::array exitCodeMeanings{
                     QLatin1StringView("A file cannot be read, or is no configuration.")},
     ExitCodeMeaning{ExitCode::WouldLose,
                     QLatin1StringView("Writing would lose something of the file; nothing was done.")},
-    ExitCodeMeaning{
-        ExitCode::Busy,
-        QLatin1StringView("Another program is writing the file, or has just changed it; nothing was "
-                          "done.")},
+    ExitCodeMeaning{ExitCode::Busy,
+                    QLatin1StringView("Another program is writing the file; nothing was done.")},
     ExitCodeMeaning{ExitCode::WriteFailed,
                     QLatin1StringView("The result cannot be written; the old file stays.")},
 };
