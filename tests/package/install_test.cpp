@@ -1,0 +1,53 @@
+// Installed into a prefix of its own, the program prints with what is installed beside it.
+
+#include "installedprinter.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+class InstallTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    const QTemporaryDir folder;
+    const QString prefix = folder.filePath(u"a prefix"_s);
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const ProgramRun install =
+            runProgram(QStringLiteral(CMAKE_PROGRAM),
+                       {u"--install"_s, QStringLiteral(BUILD_FOLDER), u"--prefix"_s, prefix},
+                       {u"PATH="_s + qEnvironmentVariable("PATH")});
+        QVERIFY2(install.failure.isEmpty(), install.standardError);
+    }
+
+    void everyFileIsThere_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const char *file :
+             {"bin/palvestrin-print", "bin/palvestrin", "share/man/man1/palvestrin-print.1",
+              "share/man/man1/palvestrin.1", "share/bash-completion/completions/palvestrin",
+              "share/palvestrin/translations/palvestrin_it_IT.qm",
+              "share/palvestrin/translations/palvestrin_de_DE.qm",
+              "share/palvestrin/translations/palvestrin_fr_FR.qm",
+              "share/palvestrin/translations/palvestrin_es_ES.qm", "share/doc/palvestrin-print/README.md",
+              "share/doc/palvestrin-print/SECURITY.md", "share/doc/palvestrin-print/job-format.md",
+              "share/doc/palvestrin-print/output-format.md", "share/doc/palvestrin-print/configuration.md",
+              "share/doc/palvestrin-print/services.md",
+              "share/doc/palvestrin-print/examples/jobs/printFullOrderReceipt.xml",
+              "share/doc/palvestrin-print/examples/home/.palvestrin/conf/palvestrin.conf",
+              MODULE_FOLDER "/libpalvestrin-guiapplication.so"})
+            QTest::newRow(file) << QString::fromLatin1(file);
+    }
+    void everyFileIsThere()
+    {
+        QFETCH(QString, file);
+        QVERIFY(QFile::exists(prefix + u'/' + file));
+    }
+
+    void itPrintsFromThere() { verifyPrintsInItalian(prefix); }
+};
+
+QTEST_GUILESS_MAIN(InstallTest)
+#include "install_test.moc"
