@@ -1,5 +1,6 @@
 // The tables of the documents against the tables of the code.
 
+#include "knownkeys.h"
 #include "printmethods.h"
 #include "program.h"
 #include "temporaryhome.h"
@@ -176,13 +177,37 @@ private Q_SLOTS:
         }
     }
 
-    void everySettingIsDocumented()
+    /// The renderer's settings, methods and kinds are those that `palvestrin config` and configuration.md
+    /// know.
+    void everySettingIsKnown()
     {
-        const QString configuration = readDocument(u"docs/configuration.md"_s);
+        QStringList renderer;
         for (const IntegerSetting &setting : integerSettings)
-            QVERIFY2(configuration.contains(u'`' + setting.key + u'`'), setting.key.data());
+            renderer += setting.key;
         for (const FlagSetting &setting : flagSettings)
-            QVERIFY2(configuration.contains(u'`' + setting.key + u'`'), setting.key.data());
+            renderer += setting.key;
+        renderer += {u"style"_s, u"topMargin"_s, u"descriptionWidth"_s, u"copyNumber"_s};
+        QStringList known;
+        for (const knownkeys::DocumentSetting &setting : knownkeys::documentSettings)
+            known += setting.name;
+        renderer.sort();
+        known.sort();
+        QCOMPARE(known, renderer);
+    }
+
+    void everyMethodIsKnown()
+    {
+        QStringList renderer;
+        for (const PrintMethod &method : printMethods) {
+            for (const DocumentKind &kind : documentKinds) {
+                if (kind.name == method.kind)
+                    renderer += method.name + u' ' + kind.path;
+            }
+        }
+        QStringList known;
+        for (const knownkeys::PrintMethod &method : knownkeys::printMethods)
+            known += method.name + " palvestrin."_L1 + method.block + u'.';
+        QCOMPARE(known, renderer);
     }
 
     void everyExampleIsNamedAfterItsMethod()
