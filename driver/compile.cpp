@@ -13,6 +13,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <iostream>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,6 +26,16 @@ void tellOnlyFatalMessages(QtMsgType type, const QMessageLogContext &, const QSt
 {
     if (type == QtFatalMsg)
         std::cerr << qUtf8Printable(message) << std::endl;
+}
+
+/// A file that is opened while a standard stream is closed takes its place, and its messages with it: "File
+/// Format Not Supported" would stand in the ticket.
+void occupyStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0)
+            (void)open("/dev/null", O_RDWR); // the lowest free descriptor, which is this one
+    }
 }
 
 /// A full disk or a reader that went away must not kill the process: the write fails, and that is told.
@@ -63,6 +74,7 @@ void compile(int argc, char **argv)
         return;
     }
     qInstallMessageHandler(tellOnlyFatalMessages);
+    occupyStandardStreams();
     ignoreWriteSignals();
     const auto application = newApplication(argc, argv);
 
@@ -78,5 +90,6 @@ void compile(int argc, char **argv)
     openInput(input, argv[1]);
     QXmlSimpleReader reader;
     reader.setContentHandler(&printer);
+    reader.setDeclHandler(&printer);
     reader.parse(source);
 }

@@ -25,15 +25,24 @@ LocaleOutput &LocaleOutput::operator<<(const QString &text)
 {
     if (!error.isNull())
         return *this;
-    const QByteArray bytes = encoding.encode(text);
-    if (file.write(bytes) != bytes.size())
+    if (!write(encoding.encode(text)))
         fail();
     return *this;
 }
 
+bool LocaleOutput::write(const QByteArray &bytes)
+{
+    // A disk that fills up takes a part, and gives no reason. It gives one when it is asked to take the rest.
+    const qint64 written = file.write(bytes);
+    if (written == bytes.size())
+        return true;
+    const QByteArray rest = bytes.mid(qMax<qint64>(0, written));
+    return file.write(rest) == rest.size();
+}
+
 bool LocaleOutput::close()
 {
-    if (error.isNull() && !file.flush())
+    if (error.isNull() && !file.flush() && !file.flush()) // twice, for the same reason
         fail();
     file.close();
     if (error.isNull() && file.error() != QFileDevice::NoError)

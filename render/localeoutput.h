@@ -25,6 +25,7 @@ public:
     QString errorString() const { return error; }
 
 private:
+    bool write(const QByteArray &bytes);
     void fail();
 
     LocaleEncoding encoding;
