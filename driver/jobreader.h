@@ -2,17 +2,29 @@
 
 #include "companyprinterdriver.h"
 
+#include <QSet>
 #include <QXmlInputSource>
 
-/// Guards against jobs that nest so deep that the XML reader, which recurses, would overflow the stack.
-///
-/// The reader is the toolkit's tolerant one, on purpose: where a strict reader would stop (an undeclared
-/// entity, a byte that is not UTF-8, a repeated attribute, a control character) it prints on, and a ticket in
-/// the kitchen with one odd letter beats half a ticket.
-inline constexpr int maxNesting = 1000;
+// Guards against jobs that would overflow the stack, the memory or the patience of the XML reader. The job
+// ends where it exceeds one; what was printed before stays.
+//
+// The reader is the toolkit's tolerant one, on purpose: where a strict reader would stop (an undeclared
+// entity, a byte that is not UTF-8, a repeated attribute, a control character) it prints on, and a ticket in
+// the kitchen with one odd letter beats half a ticket.
 
-/// The text of a job. When parentheses nest deeper than `maxNesting` before the first element, as they can in
-/// a document type, the text ends there.
+/// Elements in each other, the job's root included, and parentheses in each other in a document type: the
+/// reader recurses.
+inline constexpr int maxNesting = 1000;
+/// Entities that a document type declares: the reader compares each with every other.
+inline constexpr int maxEntities = 1000;
+/// Characters that all entity references of a job together may stand for. The reader has a limit of its own,
+/// but it does not hold for every order of declarations.
+inline constexpr qint64 maxExpansion = 20'000'000;
+/// Namespace prefixes of a job: the reader compares all of them with each other at every end tag.
+inline constexpr qsizetype maxPrefixes = 20;
+
+/// The text of a job. It ends early where parentheses before the first element nest too deep, or where entity
+/// references may stand for too much.
 class JobSource : public QXmlInputSource
 {
 public:
@@ -20,16 +32,25 @@ public:
     explicit JobSource(QIODevice *device) : QXmlInputSource(device) {}
 
     QChar next() override;
+    /// An entity was declared; false when there are too many of them.
+    bool addEntity(const QString &value);
     /// The first element has begun: parentheses are text from here on.
-    void leaveProlog() { inProlog = false; }
+    void leaveProlog();
 
 private:
+    void watch(QChar character);
+    bool isTooMuch() const { return openParentheses > maxNesting || expanded > maxExpansion; }
+
+    bool isWatched = true; ///< whether anything in the text can be too much
     bool inProlog = true;
     int openParentheses = 0;
+    int entities = 0;
+    qint64 entityLength = 0;     ///< of all declared values together, in characters
+    qint64 entityReferences = 1; ///< the product of the numbers of references in them
+    qint64 expanded = 0;         ///< characters that the references so far stand for, at most
 };
 
-/// The printer, fed by a reader: elements nested deeper than `maxNesting`, the job's root included, end the
-/// job.
+/// The printer, fed by a reader that also reports declarations to it.
 class JobPrinter : public CompanyPrinterDriver
 {
 public:
@@ -39,8 +60,11 @@ public:
     bool startElement(const QString &namespaceUri, const QString &localName, const QString &qName,
                       const QXmlAttributes &attributes) override;
     bool endElement(const QString &namespaceUri, const QString &localName, const QString &qName) override;
+    bool startPrefixMapping(const QString &prefix, const QString &namespaceUri) override;
+    bool internalEntityDecl(const QString &name, const QString &value) override;
 
 private:
     JobSource &source;
     int openElements = 0;
+    QSet<QString> prefixes;
 };
