@@ -7,6 +7,13 @@
 # A library offers the headers of its own folder and nothing else, so including a header of a folder that the
 # target does not link is a build error: that is what keeps the arrows of ARCHITECTURE.md true.
 
+# What restaurants run is hardened: a job is a stranger's text (see SECURITY.md).
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+add_compile_options("$<$<CONFIG:Release>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+add_link_options("$<$<CONFIG:Release>:LINKER:-z,relro,-z,now,-z,noexecstack>")
+
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 
 function(palvestrin_compile_rules target)
