@@ -22,7 +22,7 @@ constexpr bool isSanitized = __has_feature(address_sanitizer);
 constexpr bool isSanitized = false;
 #endif
 
-constexpr int million = 1'000'000;
+constexpr qsizetype million = 1'000'000;
 
 // The job of most rows begins and ends so; what it prints in between is the row's business.
 const QByteArray head = "<job><method name=\"printFullOrderReceipt\"/>";

@@ -36,6 +36,7 @@ private Q_SLOTS:
         std::vector<Counted *> seen(count);
         std::vector<int> values(count);
         std::vector<std::thread> threads;
+        threads.reserve(count);
         for (int i = 0; i < count; ++i) {
             threads.emplace_back([&, i] {
                 start.arrive_and_wait();
