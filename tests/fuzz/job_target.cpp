@@ -1,0 +1,207 @@
+// Whole jobs through the real reader and the real printer.
+//
+// An input is a configuration file, a line "---" and a job; without that line it is a job, printed in a house
+// that prints everything.
+
+#include "columns.h"
+#include "jobreader.h"
+#include "printmethods.h"
+#include "pvconfiguration.h"
+#include "target.h"
+#include "temporaryhome.h"
+
+#include <QBuffer>
+#include <QStringDecoder>
+#include <QXmlSimpleReader>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr char configurationEnd[] = "\n---\n";
+
+/// A configuration that sets every width and flag of every document kind.
+QByteArray houseConfiguration()
+{
+    QByteArray text = "palvestrin: {\n";
+    for (const DocumentKind &kind : documentKinds) {
+        text += QByteArray(kind.path.data()).split('.').at(1) + ": {\n";
+        text += "quantityFieldWidth = 3; priceFieldWidth = 8; totalPriceFieldWidth = 8;\n"
+                "paperWidth = 40; topMargin = 2; descriptionWidth = 20;\n";
+        for (const FlagSetting &setting : flagSettings)
+            text += QByteArray(setting.key.data()) + " = true;\n";
+        text += "};\n";
+    }
+    return text + "};\n";
+}
+
+/// A configuration may ask for miles of paper, and gets them: that is slow, not wrong. Widths beyond all
+/// paper count as none.
+bool wantsMilesOfPaper(const PVConfiguration &configuration)
+{
+    constexpr int plenty = 300;
+    const auto number = [&](const DocumentKind &kind, const QString &key) {
+        return configuration.getStrValue(kind.path + key).toInt();
+    };
+    return std::any_of(std::begin(documentKinds), std::end(documentKinds), [&](const DocumentKind &kind) {
+        return number(kind, u"topMargin"_s) > plenty ||
+               std::any_of(std::begin(integerSettings), std::end(integerSettings),
+                           [&](const IntegerSetting &setting) {
+                               const int width = number(kind, setting.key);
+                               return width > plenty && width <= columns::maxWidth;
+                           });
+    });
+}
+
+/// The printer with a configuration of its own, which also notes what decides the form of its output.
+class FuzzPrinter : public JobPrinter
+{
+public:
+    FuzzPrinter(const QString &fileName, JobSource &job, PVConfiguration &own) : JobPrinter(fileName, job)
+    {
+        configuration = &own;
+    }
+
+    bool startElement(const QString &uri, const QString &localName, const QString &qName,
+                      const QXmlAttributes &attributes) override
+    {
+        for (int i = 0; i < attributes.count(); ++i)
+            hasOddText |= attributes.value(i).contains(u'"') || attributes.value(i).contains(u'\n');
+        const bool goesOn = JobPrinter::startElement(uri, localName, qName, attributes);
+        hasFiscal |= currentMethod.endsWith("Fiscal"_L1);
+        return goesOn;
+    }
+
+    bool printsDocumentedPieces() const { return !hasFiscal && !hasOddText; }
+
+private:
+    bool hasFiscal = false;
+    bool hasOddText = false;
+};
+
+/// A device that hands out its bytes in drops, so that every kind of token meets the end of the reader's
+/// buffer. A drop is larger than any character: one that held no whole character would be the end of the job
+/// to the toolkit. Files and pipes are read in full kilobytes.
+class Trickle : public QIODevice
+{
+public:
+    explicit Trickle(const QByteArray &content) : bytes(content) { open(ReadOnly | Unbuffered); }
+
+    bool isSequential() const override { return true; }
+    bool atEnd() const override { return position == bytes.size(); }
+
+protected:
+    qint64 readData(char *data, qint64) override
+    {
+        constexpr qsizetype dropSize = 13;
+        const QByteArray drop = bytes.mid(position, dropSize);
+        std::copy(drop.begin(), drop.end(), data);
+        position += drop.size();
+        return drop.isEmpty() ? -1 : drop.size();
+    }
+    qint64 writeData(const char *, qint64) override { return -1; }
+
+private:
+    const QByteArray bytes;
+    qsizetype position = 0;
+};
+
+/// A line of a document that is not fiscal: a section opener or closer, or a quoted line.
+bool isPiece(QByteArrayView line)
+{
+    return line.isEmpty() || line == "j" || line == "J" ||
+           (line.size() >= 3 && line.startsWith('"') && line.indexOf('"', 1) == line.size() - 2 &&
+            line.endsWith('@'));
+}
+
+void checkPieces(const QByteArray &output)
+{
+    if (output.isEmpty())
+        return;
+    require(output.endsWith('\n'), "the output ends with a whole line");
+    const QList<QByteArray> lines = output.chopped(1).split('\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        require(isPiece(lines[i]), "every line is a documented piece");
+        const bool opens = lines[i] == "j";
+        require(!opens || (i > 0 && lines[i - 1].isEmpty()), "an empty line stands before a section");
+        require(lines[i] != "J" || i == lines.size() - 1, "only the end closes a section");
+    }
+}
+
+bool isUtf8(const QByteArray &bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString text = decoder(bytes);
+    return !decoder.hasError();
+}
+
+/// How many replacement characters the toolkit makes of bytes that are no text depends on where its buffer
+/// ends.
+bool isCleanUtf8(const QByteArray &job)
+{
+    return isUtf8(job) && !job.contains('\0') && job.count("encoding") == job.count("encoding=\"UTF-8\"");
+}
+
+QByteArray render(QIODevice &job, PVConfiguration &configuration)
+{
+    const MemoryFile file;
+    bool documented = false;
+    {
+        JobSource source(&job);
+        FuzzPrinter printer(file.path(), source, configuration);
+        QXmlSimpleReader reader;
+        reader.setContentHandler(&printer);
+        reader.setDeclHandler(&printer);
+        reader.parse(source);
+        documented = printer.printsDocumentedPieces();
+    }
+    const QByteArray output = file.content();
+    if (documented)
+        checkPieces(output);
+    return output;
+}
+
+QByteArray renderWhole(const QByteArray &job, PVConfiguration &configuration)
+{
+    QBuffer device;
+    device.setData(job);
+    return render(device, configuration);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    static const TemporaryHome home;
+    home.configure(houseConfiguration());
+    static const QCoreApplication application(*argc, *argv);
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    SyncSingleton<PVConfiguration>::createInstance();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const CapturedOutput messages;
+    const auto input = QByteArray::fromRawData(reinterpret_cast<const char *>(data), qsizetype(size));
+    const qsizetype end = input.indexOf(configurationEnd);
+
+    PVConfiguration configuration;
+    if (end >= 0) {
+        const MemoryFile file(input.first(end));
+        configuration.readFile(file.path(), u"cfg"_s);
+        if (wantsMilesOfPaper(configuration))
+            return notForTheCorpus;
+    }
+    const QByteArray job = end < 0 ? input : input.sliced(end + qsizetype(sizeof configurationEnd) - 1);
+
+    const QByteArray output = renderWhole(job, configuration);
+    require(renderWhole(job, configuration) == output, "the same job gives the same bytes");
+    Trickle trickle(job);
+    const QByteArray inDrops = render(trickle, configuration);
+    require(inDrops == output || !isCleanUtf8(job), "a job that comes in drops gives the same bytes");
+    require(isUtf8(output), "the output is text in the encoding of the locale");
+    return 0;
+}
