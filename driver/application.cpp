@@ -25,9 +25,8 @@ NewGuiApplication *loadGuiModule()
 
 std::unique_ptr<QCoreApplication> newApplication(int &argc, char **argv)
 {
-    if (mayHaveToolkitOptions(argc, argv)) {
-        if (NewGuiApplication *newGuiApplication = loadGuiModule())
-            return std::unique_ptr<QCoreApplication>(newGuiApplication(argc, argv));
-    }
-    return std::make_unique<QCoreApplication>(argc, argv);
+    if (!mayHaveToolkitOptions(argc, argv))
+        return std::make_unique<QCoreApplication>(argc, argv);
+    NewGuiApplication *newGuiApplication = loadGuiModule();
+    return std::unique_ptr<QCoreApplication>(newGuiApplication ? newGuiApplication(argc, argv) : nullptr);
 }

@@ -2,7 +2,6 @@
 
 #include "application.h"
 #include "jobreader.h"
-#include "localeencoding.h"
 #include "pvconfiguration.h"
 
 #include <QFile>
@@ -19,9 +18,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The toolkit's remarks (that the locale is not UTF-8, that a file is not open) are not for the ordering
-/// application, which takes whatever stands on standard error for a fault. Only what ends the process is
-/// told.
+/// Standard error is kept for a ticket that could not be written whole, so the toolkit's remarks (that the
+/// locale is not UTF-8, that a file is not open) are dropped. Only what ends the process is told.
 void tellOnlyFatalMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type == QtFatalMsg)
@@ -56,8 +54,8 @@ void loadCatalogue(QTranslator &translator, const PVConfiguration &configuration
         (void)translator.load(basedir + file);
 }
 
-/// Opened by the C library, because the toolkit encodes file names as UTF-8 whatever the locale says. A file
-/// that cannot be opened reads as an empty job.
+/// Opened by the C library, because a file name is bytes and the toolkit takes it for UTF-8. A file that
+/// cannot be opened reads as an empty job.
 void openInput(QFile &file, const char *name)
 {
     const int descriptor = open(name ? name : "", O_RDONLY | O_CLOEXEC);
@@ -77,6 +75,11 @@ void compile(int argc, char **argv)
     occupyStandardStreams();
     ignoreWriteSignals();
     const auto application = newApplication(argc, argv);
+    if (!application) {
+        std::cerr << "palvestrin-print: words that begin with \"-\" need the package palvestrin-tools"
+                  << std::endl;
+        return;
+    }
 
     QTranslator translator;
     loadCatalogue(translator, *SyncSingleton<PVConfiguration>::instance());
@@ -86,7 +89,7 @@ void compile(int argc, char **argv)
     // cannot be opened, and is treated so.
     QFile input;
     JobSource source(&input);
-    JobPrinter printer(LocaleEncoding().decode(argv[2]), source);
+    JobPrinter printer(QByteArray(argv[2]), source);
     openInput(input, argv[1]);
     QXmlSimpleReader reader;
     reader.setContentHandler(&printer);

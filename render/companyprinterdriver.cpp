@@ -15,6 +15,8 @@ const QStringMatcher replacedWord(u"TOTALE");
 
 CompanyPrinterDriver::CompanyPrinterDriver(const QString &fileName) : PrinterDriver(fileName, false) {}
 
+CompanyPrinterDriver::CompanyPrinterDriver(const QByteArray &fileName) : PrinterDriver(fileName, false) {}
+
 CompanyPrinterDriver::~CompanyPrinterDriver() = default;
 
 unsigned int CompanyPrinterDriver::getPaperWidth()

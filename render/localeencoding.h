@@ -18,7 +18,6 @@ public:
 
     /// `text` as bytes; a character that the encoding lacks becomes one '?'.
     QByteArray encode(const QString &text) const;
-    QString decode(const QByteArray &bytes) const;
 
 private:
     QTextCodec *codec; ///< owned by the toolkit

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Opened by the C library, because the toolkit encodes file names as UTF-8 whatever the locale says.
+/// Opened by the C library, because a file name is bytes and the toolkit takes it for UTF-8.
 int openForWriting(const QByteArray &name, bool append)
 {
     constexpr mode_t everybodyAsTheMaskAllows = 0666;
@@ -14,9 +14,9 @@ int openForWriting(const QByteArray &name, bool append)
 
 } // namespace
 
-LocaleOutput::LocaleOutput(const QString &fileName, bool append)
+LocaleOutput::LocaleOutput(const QByteArray &fileName, bool append)
 {
-    const int descriptor = openForWriting(encoding.encode(fileName), append);
+    const int descriptor = openForWriting(fileName, append);
     if (descriptor >= 0)
         file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
 }

@@ -13,9 +13,9 @@
 class LocaleOutput
 {
 public:
-    /// Opens `fileName` for writing, in the locale's encoding of the name; an existing file is emptied, or
-    /// added to when `append` is true.
-    LocaleOutput(const QString &fileName, bool append);
+    /// Opens `fileName`, bytes as the system takes them, for writing; an existing file is emptied, or added
+    /// to when `append` is true.
+    LocaleOutput(const QByteArray &fileName, bool append);
 
     bool isOpen() const { return file.isOpen(); }
     LocaleOutput &operator<<(const QString &text);

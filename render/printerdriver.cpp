@@ -9,6 +9,11 @@
 using namespace Qt::Literals::StringLiterals;
 
 PrinterDriver::PrinterDriver(const QString &fileName, bool append)
+    : PrinterDriver(QFile::encodeName(fileName), append)
+{
+}
+
+PrinterDriver::PrinterDriver(const QByteArray &fileName, bool append)
     : configuration(SyncSingleton<PVConfiguration>::instance()), outputName(fileName),
       output(std::make_unique<LocaleOutput>(fileName, append)), justification(u"left"_s)
 {
@@ -21,7 +26,7 @@ PrinterDriver::PrinterDriver(const QString &fileName, bool append)
 PrinterDriver::~PrinterDriver()
 {
     if (output && !output->close())
-        std::cerr << "palvestrin-print: " << qUtf8Printable(outputName)
+        std::cerr << "palvestrin-print: " << outputName.constData()
                   << ": not written completely: " << qUtf8Printable(output->errorString()) << std::endl;
 }
 

@@ -38,6 +38,8 @@ public:
     /// Opens `fileName` for writing at once (emptied unless `append`). When that fails it says so in one line
     /// on standard output, and the job renders to nowhere.
     PrinterDriver(const QString &fileName, bool append);
+    /// The same with the bytes of the name as the system takes them, whatever encoding they are in.
+    PrinterDriver(const QByteArray &fileName, bool append);
     PrinterDriver(const PrinterDriver &) = delete;
     PrinterDriver &operator=(const PrinterDriver &) = delete;
     /// Closes the output file. When not all of it could be written, says so in one line on standard error.
@@ -135,7 +137,7 @@ public:
 protected:
     PVConfiguration *configuration;       ///< not owned
     QString currentMethod;                ///< as in the job; "" while none is chosen
-    QString outputName;                   ///< as given, for messages
+    QByteArray outputName;                ///< as given, for messages
     std::unique_ptr<LocaleOutput> output; ///< null when the output file could not be opened
     bool duplicate = false;
     bool oneTimeDone = false;

@@ -59,7 +59,7 @@ bool wantsMilesOfPaper(const PVConfiguration &configuration)
 class FuzzPrinter : public JobPrinter
 {
 public:
-    FuzzPrinter(const QString &fileName, JobSource &job, PVConfiguration &own) : JobPrinter(fileName, job)
+    FuzzPrinter(const QByteArray &fileName, JobSource &job, PVConfiguration &own) : JobPrinter(fileName, job)
     {
         configuration = &own;
     }
@@ -150,7 +150,7 @@ QByteArray render(QIODevice &job, PVConfiguration &configuration)
     bool documented = false;
     {
         JobSource source(&job);
-        FuzzPrinter printer(file.path(), source, configuration);
+        FuzzPrinter printer(file.path().toUtf8(), source, configuration);
         QXmlSimpleReader reader;
         reader.setContentHandler(&printer);
         reader.setDeclHandler(&printer);

@@ -215,16 +215,32 @@ private Q_SLOTS:
         QCOMPARE(contentOf(folder.filePath(u"out"_s)), paperOf(u"job"_s));
     }
 
-    void withoutItsModuleTheProgramPrintsStill()
+    /// Taken for files, the words would be "-reverse" as the job and the job as the output.
+    void withoutItsModuleAnOptionTouchesNothing()
     {
         const QTemporaryDir folder;
         const QString alone = folder.filePath(u"palvestrin-print"_s);
         QVERIFY(QFile::copy(program, alone));
         writeFile(folder.filePath(u"job"_s), jobIn(u"job"_s));
-        const ProgramRun run = runProgram(alone, {u"job"_s, u"out"_s, u"-reverse"_s},
+        const ProgramRun run = runProgram(alone, {u"-reverse"_s, u"job"_s, u"out"_s},
                                           bareEnvironment(home.path()), folder.path());
         QCOMPARE(run.failure, QString());
-        QCOMPARE(run.standardOutput + run.standardError, QByteArray());
+        QCOMPARE(run.standardOutput, QByteArray());
+        QCOMPARE(run.standardError,
+                 "palvestrin-print: words that begin with \"-\" need the package palvestrin-tools\n");
+        QCOMPARE(contentOf(folder.filePath(u"job"_s)), jobIn(u"job"_s));
+        QVERIFY(!QFile::exists(folder.filePath(u"out"_s)));
+    }
+
+    void withoutItsModuleAPlainStartPrints()
+    {
+        const QTemporaryDir folder;
+        const QString alone = folder.filePath(u"palvestrin-print"_s);
+        QVERIFY(QFile::copy(program, alone));
+        writeFile(folder.filePath(u"job"_s), jobIn(u"job"_s));
+        const ProgramRun run =
+            runProgram(alone, {u"job"_s, u"out"_s}, bareEnvironment(home.path()), folder.path());
+        QCOMPARE(run.failure + QString::fromUtf8(run.standardOutput + run.standardError), QString());
         QCOMPARE(contentOf(folder.filePath(u"out"_s)), paperOf(u"job"_s));
     }
 };
