@@ -1,10 +1,48 @@
 #include "capturedoutput.h"
+#include "localeoutput.h"
 #include "printmethods.h"
 #include "testprinter.h"
+#include "wholefile.h"
 
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A second device: plain lines, added to what the file holds.
+class PlainPrinter : public PrinterDriver
+{
+public:
+    explicit PlainPrinter(const QString &fileName) : PrinterDriver(fileName, true) {}
+
+    unsigned int getPaperWidth() override { return 24; }
+    void setBold() override {}
+    void setCharSize() override {}
+    void setCharSize(int) override {}
+    void setCenterJustify() override {}
+    void fullCut() override {}
+    void generatePulse() override {}
+    void startSection() override { *output << u"[start]\n"_s; }
+    void endSection() override { *output << u"[end]\n"_s; }
+    void print(unsigned int indent, const QString &text) override { *output << QString(indent, u' ') + text; }
+    void println(unsigned int indent, const QString &text) override
+    {
+        print(indent, text);
+        *output << u"\n"_s;
+    }
+    void println(const QString &text) override { println(0, text); }
+    void printLogo() override { *output << u"[logo]\n"_s; }
+};
+
+QXmlAttributes attribute(const QString &name, const QString &value)
+{
+    QXmlAttributes list;
+    list.append(name, QString(), name, value);
+    return list;
+}
+
+} // namespace
 
 class PrinterDriverTest : public QObject
 {
@@ -100,6 +138,26 @@ private Q_SLOTS:
         QCOMPARE(printer.currentMethod, name);
         QTEST(printer.docPath, "docPath");
         QTEST(printer.printDuplicate(), "duplicateAfter");
+    }
+
+    void anotherDeviceAppends()
+    {
+        const QString path = home.filePath(u"plain"_s);
+        QFile::remove(path);
+        for (int run = 0; run < 2; ++run) {
+            PlainPrinter printer(path);
+            printer.startDocument();
+            printer.startElement(QString(), u"method"_s, u"method"_s, attribute(u"name"_s, u"printSold"_s));
+            printer.startElement(QString(), u"logo"_s, u"logo"_s, {});
+            printer.startElement(QString(), u"receipt"_s, u"receipt"_s, attribute(u"serialnumber"_s, u"7"_s));
+            // A device without register commands has none to print.
+            printer.printRowFiscal(u"total"_s, attribute(u"price"_s, u"1"_s));
+            printer.printRowFiscal(u"1"_s, u"1"_s, u"Pizza"_s, u"1"_s);
+            printer.endElement(QString(), u"method"_s, u"method"_s);
+            printer.endDocument();
+        }
+        const QByteArray once = "[start]\n[logo]\n Serial Number: 7\n========================\n[end]\n";
+        QCOMPARE(contentOf(path), once + once);
     }
 
     void thereAreThirteenMethods() { QCOMPARE(std::size(printMethods), 13U); }
