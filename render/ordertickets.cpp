@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <cmath>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -16,7 +18,7 @@ QString variantDescription(const QXmlAttributes &attributes)
     const QString quantity = attributes.value("quantity"_L1);
     const double number = quantity.toDouble();
     QString sign = quantity;
-    if (number == -1 || number == 0)
+    if (number == -1 || number == 0 || std::isnan(number)) // the toolkit takes the word "nan" for a number
         sign = u"-"_s;
     else if (number == 1)
         sign = u"+"_s;
