@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <dlfcn.h>
+#include <filesystem>
 
 namespace {
 
-constexpr char moduleName[] = "libpalvestrin-guiapplication.so";
+constexpr char modulePath[] = PALVESTRIN_MODULES_FROM_BIN "/libpalvestrin-guiapplication.so";
 constexpr char entryName[] = "palvestrinNewGuiApplication";
 using NewGuiApplication = QCoreApplication *(int &argc, char **argv);
 
@@ -17,7 +18,11 @@ bool mayHaveToolkitOptions(int argc, char **argv)
 /// Null when the module is not installed. It stays loaded: the toolkit cannot be unloaded.
 NewGuiApplication *loadGuiModule()
 {
-    void *module = dlopen(moduleName, RTLD_NOW);
+    std::error_code error;
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
+    if (error)
+        return nullptr;
+    void *module = dlopen((program.parent_path() / modulePath).c_str(), RTLD_NOW);
     return module ? reinterpret_cast<NewGuiApplication *>(dlsym(module, entryName)) : nullptr;
 }
 

@@ -31,17 +31,6 @@ QByteArray paperOf(const QString &file)
     return "\n\"" + file.toUtf8() + "\"1*100H1R\r\n";
 }
 
-/// The environment of a start that may load the module.
-QStringList environmentIn(const QString &home)
-{
-#ifdef __SANITIZE_ADDRESS__
-    // The sanitizer has a dlopen of its own, which looks where the sanitizer's library says, not the program.
-    return bareEnvironment(home) + QStringList{u"LD_LIBRARY_PATH="_s + QStringLiteral(MODULE_FOLDER)};
-#else
-    return bareEnvironment(home);
-#endif
-}
-
 QByteArrayList guiLibrariesIn(const QByteArray &text)
 {
     QByteArrayList found;
@@ -69,7 +58,7 @@ private:
         if (mkfifo(fifo.toUtf8().constData(), 0600) != 0)
             qFatal("cannot make a named pipe");
         QProcess process;
-        process.setEnvironment(environmentIn(home.path()));
+        process.setEnvironment(bareEnvironment(home.path()));
         process.start(program, QStringList{fifo, home.filePath(u"out"_s)} + moreWords);
 
         // Opens as soon as the program has opened its end, which is the last thing before it reads.
@@ -186,7 +175,7 @@ private Q_SLOTS:
         if (hasOutput)
             expected[output] = expected.contains(input) && input != output ? paperOf(input) : QByteArray();
 
-        const ProgramRun run = runProgram(program, words, environmentIn(home.path()), folder.path());
+        const ProgramRun run = runProgram(program, words, bareEnvironment(home.path()), folder.path());
         QCOMPARE(run.failure, QString());
         QCOMPARE(run.standardError, QByteArray());
         QCOMPARE(run.standardOutput, hasOutput ? QByteArray() : QByteArray(unableToOpen));
@@ -209,7 +198,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         writeFile(folder.filePath(u"job"_s), jobIn(u"job"_s));
         const ProgramRun run = runProgram(program, {u"job"_s, u"out"_s, u"-reverse"_s},
-                                          environmentIn(home.path()) + variables, folder.path());
+                                          bareEnvironment(home.path()) + variables, folder.path());
         QCOMPARE(run.failure, QString());
         QCOMPARE(run.standardOutput + run.standardError, QByteArray());
         QCOMPARE(contentOf(folder.filePath(u"out"_s)), paperOf(u"job"_s));
