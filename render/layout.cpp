@@ -33,36 +33,36 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
 
     // The description is the one column that is cut: it loses its tail, whatever else the row holds.
     columns::Row row;
-    if (style == "qdpt"_L1)
+    if (style == "qdpt"_L1) {
         row.rightJustified(quantity, Q, blank)
             .text(u" ")
             .cut(description, leftOver(W, Q, P, T, 1), fill)
             .rightJustified(price, P, fill)
             .rightJustified(total, T, blank);
-    else if (style == "qxdpt"_L1)
+    } else if (style == "qxdpt"_L1) {
         row.rightJustified(quantity, Q, blank)
             .text(u" x ")
             .cut(description, leftOver(W, Q, P, T, 3), fill)
             .rightJustified(price, P, fill)
             .rightJustified(total, T, blank);
-    else if (style == "qxd"_L1)
+    } else if (style == "qxd"_L1) {
         row.rightJustified(quantity, Q, blank).text(u" x ").cut(description, leftOver(W, Q, 3), fill);
-    // Two characters short of the paper, and blank whatever the fill. It stays so: kitchens know their
-    // tickets.
-    else if (style == "qd"_L1)
+    } else if (style == "qd"_L1) {
+        // Two characters short of the paper, and blank whatever the fill: relied upon as it is.
         row.rightJustified(quantity, Q, blank).text(u" ").cut(description, leftOver(W, Q, 3), blank);
-    else if (style == "qxdtDoubleLine"_L1)
+    } else if (style == "qxdtDoubleLine"_L1) {
         row.text(quantity)
             .text(u" x ")
             .text(price)
             .text(u"\n")
             .cut(description, leftOver(W, T), fill)
             .rightJustified(total, T, fill);
-    // Three characters short of the paper, on purpose; the total is not used.
-    else if (style == "date-amount-type"_L1)
+    } else if (style == "date-amount-type"_L1) {
+        // Three characters short of the paper, on purpose; the total is not used.
         row.leftJustified(quantity, dateWidth, blank)
             .cut(description, leftOver(W, dateWidth, P, 3), fill)
             .rightJustified(price, P, fill);
+    }
     return row.toString();
 }
 

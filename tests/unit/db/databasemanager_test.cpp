@@ -53,7 +53,7 @@ class DatabaseManagerTest : public QObject
     Q_OBJECT
 
 private:
-    const ConfiguredHome home;
+    const ConfiguredHome home{};
     TemporaryPostgres server;
     DatabaseManager *manager = nullptr;
     QSqlDatabase *db = nullptr;

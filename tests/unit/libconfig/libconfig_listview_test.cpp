@@ -15,7 +15,7 @@ class LibconfigListViewTest : public QObject
     Q_OBJECT
 
 private:
-    const ScratchFolder folder;
+    const ScratchFolder folder{};
 
     QString path() const { return folder.path(u"test.conf"_s); }
     void write(const QByteArray &content) const { folder.write(u"test.conf"_s, content); }

@@ -36,7 +36,7 @@ class LibconfigWriteTest : public QObject
     Q_OBJECT
 
 private:
-    const ScratchFolder folder;
+    const ScratchFolder folder{};
 
     QString inPath() const { return folder.path(u"in.conf"_s); }
     QString outPath() const { return folder.path(u"out.conf"_s); }

@@ -28,7 +28,7 @@ class HLogManagerTest : public QObject
     Q_OBJECT
 
 private:
-    const ConfiguredHome home;
+    const ConfiguredHome home{};
 
 private Q_SLOTS:
     void initTestCase() { home.configureLog("INFO", "APPEND"); }

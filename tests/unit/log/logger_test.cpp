@@ -56,7 +56,7 @@ class LoggerTest : public QObject
     Q_OBJECT
 
 private:
-    const ConfiguredHome home;
+    const ConfiguredHome home{};
 
     QString log() const { return logText(home.logPath()); }
 

@@ -11,7 +11,7 @@ class KeyEditTest : public QObject
     Q_OBJECT
 
 private:
-    const ScratchFolder folder;
+    const ScratchFolder folder{};
 
     ConfigFile file(const QByteArray &content) const
     {

@@ -14,7 +14,7 @@ class LossesTest : public QObject
     Q_OBJECT
 
 private:
-    const ScratchFolder folder;
+    const ScratchFolder folder{};
 
     static QByteArray asLines(const std::vector<Loss> &losses)
     {

@@ -16,7 +16,7 @@ class HLibraryDatabaseTest : public QObject
     Q_OBJECT
 
 private:
-    const ConfiguredHome home;
+    const ConfiguredHome home{};
     const TemporaryPostgres server;
 
 private Q_SLOTS:
