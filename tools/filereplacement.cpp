@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -49,6 +50,9 @@ FileReplacement::FileReplacement(const QString &of) : FileReplacement(of, behind
 FileReplacement::FileReplacement(const QString &of, const QString &model) : path(behindLinks(of))
 {
     const QFileInfo info(path);
+    // A device or a pipe would be a plain file from then on.
+    if (const QFileInfo given(of); given.exists() && !given.isFile())
+        throw CommandError(ExitCode::WriteFailed, of, u"it is no regular file; give one"_s);
     newPath = QFile::encodeName(info.absolutePath() + "/."_L1 + info.fileName() + ".new"_L1);
     if (info.exists() && ::access(QFile::encodeName(path).constData(), W_OK) != 0)
         fail(u"the file may not be written"_s);

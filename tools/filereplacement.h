@@ -17,7 +17,8 @@ class FileReplacement
 {
 public:
     /// Takes the lock on `path`. Throws a CommandError: Busy when another program holds it, WriteFailed when
-    /// the file or its folder cannot be written. Folders that are missing are made.
+    /// the file or its folder cannot be written, or what is there is no regular file. Folders that are
+    /// missing are made.
     explicit FileReplacement(const QString &path);
     /// The same; the new file takes owner and permissions of `model`, which exists.
     FileReplacement(const QString &path, const QString &model);
@@ -25,9 +26,6 @@ public:
     FileReplacement &operator=(const FileReplacement &) = delete;
     /// Without a commit everything is as before.
     ~FileReplacement();
-
-    /// The file behind all links.
-    QString target() const { return path; }
 
     /// Puts `content` in place. Called once. Throws a CommandError (WriteFailed) and leaves the old file.
     void commit(const QByteArray &content);

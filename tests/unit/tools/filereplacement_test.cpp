@@ -158,6 +158,17 @@ private Q_SLOTS:
         QCOMPARE(folder.names(), QStringList{u"c"_s});
     }
 
+    void aPipeIsNotReplacedByAFile()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.path(u"c"_s);
+        QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
+        QCOMPARE(codeOf([&] { FileReplacement(path).commit("new"); }), ExitCode::WriteFailed);
+        struct stat now = {};
+        QCOMPARE(::stat(qPrintable(path), &now), 0);
+        QVERIFY(S_ISFIFO(now.st_mode));
+    }
+
     void aFolderInTheWayIsRefused()
     {
         const ScratchFolder folder;
