@@ -6,7 +6,9 @@
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
+#include <cerrno>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -28,19 +30,27 @@ public:
     MemoryFile &operator=(const MemoryFile &) = delete;
 
     QString path() const { return u"/proc/self/fd/%1"_s.arg(file); }
+    void write(const QByteArray &content) const
+    {
+        QFile target(path());
+        if (!target.open(QIODevice::WriteOnly) || target.write(content) != content.size() || !target.flush())
+            throw CommandError(ExitCode::WriteFailed, u"there is no memory for a copy of the file"_s);
+    }
 
 private:
     int file;
 };
 
-QByteArray contentOf(const QString &path)
+/// Whether there is a file. Throws a CommandError (Unreadable) when nobody can tell, as in a folder that may
+/// not be entered.
+bool isThereAt(const QString &path)
 {
-    QFile file(path);
-    if (!QFileInfo(path).isFile()) // a pipe could be read only once, a folder not at all
-        throw CommandError(ExitCode::Unreadable, path, u"it is no regular file; give one"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        throw CommandError(ExitCode::Unreadable, path, file.errorString());
-    return file.readAll();
+    struct stat found = {};
+    if (::stat(QFile::encodeName(path).constData(), &found) == 0)
+        return true;
+    if (errno == ENOENT || errno == ENOTDIR)
+        return false;
+    throw CommandError(ExitCode::Unreadable, path, qt_error_string(errno));
 }
 
 bool looksLikeXml(const QByteArray &content)
@@ -114,6 +124,19 @@ QString whatFits(const QString &type)
 
 } // namespace
 
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile()) // a pipe could be read only once, a folder not at all
+        throw CommandError(ExitCode::Unreadable, path, u"it is no regular file; give one"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        throw CommandError(ExitCode::Unreadable, path, file.errorString());
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw CommandError(ExitCode::Unreadable, path, file.errorString());
+    return bytes;
+}
+
 QString firstDifference(const QDomElement &root, const QDomElement &otherRoot)
 {
     if (QString pair = differingPair(root, otherRoot, QString()); !pair.isEmpty())
@@ -126,7 +149,7 @@ QString firstDifference(const QDomElement &root, const QDomElement &otherRoot)
 }
 
 ConfigFile::ConfigFile(const QString &filePath)
-    : path(filePath), isThere(QFileInfo::exists(behindLinks(filePath))), form(form::text)
+    : path(filePath), isThere(isThereAt(behindLinks(filePath))), form(form::text)
 {
     if (isThere)
         read();
@@ -134,10 +157,13 @@ ConfigFile::ConfigFile(const QString &filePath)
 
 void ConfigFile::read()
 {
-    bytes = contentOf(path);
+    bytes = bytesOf(path);
     if (looksLikeXml(bytes))
         form = form::xml;
-    tree.readFile(path, form);
+    const MemoryFile copy; // the file itself may hold other bytes by now
+    copy.write(bytes);
+    tree.readFile(copy.path(), form);
+    tree.root().setTagName(path);
     if (form == form::xml)
         checkXml();
 }
@@ -145,6 +171,7 @@ void ConfigFile::read()
 void ConfigFile::checkXml()
 {
     const QDomNode first = tree.root().firstChild();
+    firstElement = first.toElement().tagName();
     if (first.isElement())
         return;
     if (!first.isNull()) {
@@ -163,10 +190,16 @@ void ConfigFile::checkXml()
                        u"%1; nothing is found in XML that is not well-formed"_s.arg(reason));
 }
 
-bool ConfigFile::changedSince() const
+/// A file without any element would count as text form from then on.
+void ConfigFile::keepFirstElement()
 {
-    const bool isThereNow = QFileInfo::exists(path);
-    return isThereNow != isThere || (isThereNow && contentOf(path) != bytes);
+    if (form == form::xml && tree.root().firstChildElement().isNull())
+        tree.appendBlock(tree.root(), firstElement);
+}
+
+bool ConfigFile::isSameAs(const ConfigFile &other) const
+{
+    return isThere == other.isThere && bytes == other.bytes;
 }
 
 std::vector<Loss> ConfigFile::losses() const
@@ -195,7 +228,7 @@ QByteArray ConfigFile::written(const QString &as, bool evenIfItChanges)
                                u"\"%1\" would not survive: %2"_s.arg(changed, whatFits(as)));
         }
     }
-    return contentOf(memory.path());
+    return bytesOf(memory.path());
 }
 
 QString ConfigFile::save(FileReplacement &replacement, bool force)
@@ -203,17 +236,18 @@ QString ConfigFile::save(FileReplacement &replacement, bool force)
     const bool loses = !losses().empty();
     if (loses && !force)
         throw lossesAsError();
+    keepFirstElement();
     const QByteArray content = written(form);
     if (content == bytes)
         return {};
-    const QString backup = isThere ? keepBackup(loses) : QString();
+    const QString backup = isThere ? keepBackup(path, bytes, loses) : QString();
     replacement.commit(content);
     bytes = content;
     isThere = true;
     return loses ? backup : QString();
 }
 
-QString ConfigFile::keepBackup(bool forGood) const
+QString keepBackup(const QString &path, const QByteArray &content, bool forGood)
 {
     const QString target = behindLinks(path);
     const QString usual = target + ".bak"_L1;
@@ -221,6 +255,6 @@ QString ConfigFile::keepBackup(bool forGood) const
     while (forGood && QFileInfo::exists(usual + u".%1"_s.arg(number)))
         ++number;
     QString backup = forGood ? usual + u".%1"_s.arg(number) : usual;
-    FileReplacement(backup, target).commit(bytes);
+    FileReplacement(backup, target).commit(content);
     return backup;
 }

@@ -27,12 +27,11 @@ public:
     bool exists() const { return isThere; }
     /// One of `form`.
     QString type() const { return form; }
-    const QByteArray &content() const { return bytes; }
     libconfig::Config &config() { return tree; }
     const libconfig::Config &config() const { return tree; }
 
-    /// Whether the file holds something else by now than what was read.
-    bool changedSince() const;
+    /// Whether both were read from the same bytes, or from no file.
+    bool isSameAs(const ConfigFile &other) const;
 
     std::vector<Loss> losses() const;
     /// All losses with their places as one error (WouldLose) that names --force as the way on.
@@ -51,13 +50,21 @@ public:
 private:
     void read();
     void checkXml();
-    QString keepBackup(bool forGood) const;
+    void keepFirstElement();
 
     bool isThere = false;
     QString form;
     QByteArray bytes;
+    QString firstElement; ///< its name, in the XML form
     libconfig::Config tree;
 };
+
+/// All of the regular file `path`. Throws a CommandError (Unreadable), also when only a part can be read.
+QByteArray bytesOf(const QString &path);
+
+/// Keeps `content`, what the file `path` holds, beside it: as "<name>.bak", or `forGood` as "<name>.bak.<n>",
+/// which is never overwritten. Returns the path of the backup. Throws a CommandError.
+QString keepBackup(const QString &path, const QByteArray &content, bool forGood);
 
 /// The first setting, as a dotted path, in which two trees differ: the pairs of their roots and everything in
 /// their first blocks, where an empty block counts as none. "" when they are equal.

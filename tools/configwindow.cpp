@@ -90,7 +90,7 @@ bool matches(const QString &key, const QString &value, const QString &text)
 } // namespace
 
 ConfigWindow::ConfigWindow(const QString &path)
-    : file(std::make_unique<ConfigFile>(path)), view(file->config().newConfigListView()),
+    : file(std::make_unique<ConfigFile>(path)), view(libconfig::Config().newConfigListView()),
       search(new QLineEdit), description(new QLabel)
 {
     view->setItemDelegateForColumn(ValueColumn, new ValueDelegate(view));
@@ -169,13 +169,15 @@ void ConfigWindow::makeLayout()
 
 void ConfigWindow::load()
 {
+    const QString current = keyOf(view->currentItem());
     {
         const QSignalBlocker quiet(view);
         file->config().buildConfigListView(view);
         markAll();
     }
-    search->clear();
-    view->setCurrentItem(view->topLevelItem(0));
+    QTreeWidgetItem *row = rowOf(current);
+    view->setCurrentItem(row ? row : view->topLevelItem(0));
+    filter(search->text());
     describeCurrent();
     setWindowTitle(u"%1[*] - Palvestrin settings"_s.arg(QFileInfo(file->path).fileName()));
     setWindowModified(false);
@@ -184,49 +186,69 @@ void ConfigWindow::load()
 
 bool ConfigWindow::save()
 {
+    commitEdit();
     QString backup;
     try {
         FileReplacement replacement(file->path);
-        if (!agreesToOverwrite() || !agreesToLosses())
+        ConfigFile current(file->path);
+        if (!agreesToOverwrite(current) || !agreesToLosses(current))
             return false;
-        file->config().readListView(view);
-        backup = file->save(replacement, true);
+        current.config().readListView(view);
+        backup = current.save(replacement, true);
+        file = std::make_unique<ConfigFile>(file->path);
     } catch (const CommandError &error) {
         QMessageBox::critical(this, u"Not saved"_s, messagesOf(error));
         return false;
     }
-    setWindowModified(false);
+    load(); // what the file does not hold is not shown
     statusBar()->showMessage(backup.isEmpty() ? u"Saved %1"_s.arg(file->path)
                                               : u"Saved; the file as it was is kept as %1"_s.arg(backup));
     return true;
 }
 
-bool ConfigWindow::agreesToOverwrite()
+void ConfigWindow::commitEdit()
 {
-    if (!file->changedSince())
+    view->setFocus(); // a cell that loses the keyboard hands its text over
+}
+
+bool ConfigWindow::agreesToOverwrite(const ConfigFile &current)
+{
+    if (current.isSameAs(*file))
         return true;
     const auto answer = QMessageBox::warning(this, u"Changed meanwhile"_s,
                                              u"Another program has changed the file since it was read here. "
                                              u"Save all the same? What it wrote is kept "
                                              "in a backup."_s,
                                              QMessageBox::Save | QMessageBox::Cancel, QMessageBox::Cancel);
-    if (answer != QMessageBox::Save)
-        return false;
-    file = std::make_unique<ConfigFile>(
-        file->path); // so that the backup and the losses are those of the new one
-    return true;
+    return answer == QMessageBox::Save;
 }
 
-bool ConfigWindow::agreesToLosses()
+bool ConfigWindow::agreesToLosses(const ConfigFile &current)
 {
-    if (file->losses().empty())
+    QStringList lost;
+    for (const Loss &loss : current.losses())
+        lost += u"line %1: %2"_s.arg(QString::number(loss.at.line), loss.what);
+    for (const QString &block : unwrittenBlocks())
+        lost += u"in this window: block \"%1\": only the first top-level block is written"_s.arg(block);
+    if (lost.isEmpty())
         return true;
     QMessageBox question(QMessageBox::Warning, u"Saving loses something"_s,
-                         u"The file holds text that is no setting. Saving loses it; a backup keeps it."_s,
+                         u"Saving loses what the details name. A backup keeps the file as it was."_s,
                          QMessageBox::Save | QMessageBox::Cancel, this);
     question.setDefaultButton(QMessageBox::Cancel);
-    question.setDetailedText(messagesOf(file->lossesAsError()));
+    question.setDetailedText(lost.join(u'\n'));
     return question.exec() == QMessageBox::Save;
+}
+
+QStringList ConfigWindow::unwrittenBlocks() const
+{
+    QStringList names;
+    for (int i = 0; i < view->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem *row = view->topLevelItem(i);
+        if (isBlockRow(row) && row->childCount() > 0 && !isFound(row))
+            names += row->text(SettingColumn);
+    }
+    return names;
 }
 
 void ConfigWindow::revert()
@@ -241,6 +263,7 @@ void ConfigWindow::revert()
 
 void ConfigWindow::askForRevert()
 {
+    commitEdit();
     if (!isWindowModified() ||
         QMessageBox::question(this, u"Revert"_s, u"Drop all changes and read the file again?"_s) ==
             QMessageBox::Yes)
@@ -253,12 +276,20 @@ void ConfigWindow::filter(const QString &text)
     QList<QTreeWidgetItem *> rows;
     for (QTreeWidgetItemIterator it(view); *it; ++it)
         rows.prepend(*it);
+    QTreeWidgetItem *firstMatch = nullptr;
+    bool isCurrentMatch = false;
     for (QTreeWidgetItem *row : rows) {
         bool shown = matches(keyOf(row), row->text(ValueColumn), text);
+        if (shown) {
+            firstMatch = row;
+            isCurrentMatch |= row == view->currentItem();
+        }
         for (int i = 0; i < row->childCount(); ++i)
             shown |= !row->child(i)->isHidden();
         row->setHidden(!shown);
     }
+    if (!isCurrentMatch)
+        view->setCurrentItem(firstMatch);
 }
 
 QTreeWidgetItem *ConfigWindow::addSetting(const QString &key)
@@ -298,10 +329,12 @@ void ConfigWindow::addBlock(QTreeWidgetItem *parent, const QString &name)
 
 void ConfigWindow::removeCurrent()
 {
-    if (!view->currentItem())
+    QTreeWidgetItem *row = view->currentItem();
+    if (!row || row->isHidden())
         return;
-    delete view->currentItem();
-    markAll(); // a removed first block makes the next one the first
+    delete row;
+    filter(search->text()); // the row that is current now may be a hidden one
+    markAll();              // a removed first block makes the next one the first
     markModified();
 }
 
@@ -355,6 +388,7 @@ void ConfigWindow::askForBlock()
 
 void ConfigWindow::closeEvent(QCloseEvent *event)
 {
+    commitEdit();
     if (!isWindowModified())
         return event->accept();
     const auto answer = QMessageBox::warning(
@@ -435,6 +469,15 @@ QString ConfigWindow::keyOf(const QTreeWidgetItem *row) const
         return {};
     const QString above = keyOf(row->parent());
     return above.isEmpty() ? row->text(SettingColumn) : above + u'.' + row->text(SettingColumn);
+}
+
+QTreeWidgetItem *ConfigWindow::rowOf(const QString &key) const
+{
+    for (QTreeWidgetItemIterator it(view); *it; ++it) {
+        if (keyOf(*it) == key)
+            return *it;
+    }
+    return nullptr;
 }
 
 bool ConfigWindow::isFound(const QTreeWidgetItem *row) const

@@ -25,12 +25,13 @@ public:
     bool save();
     /// Reads the file again and drops all changes, without asking.
     void revert();
-    /// Shows the settings whose key or value holds `text`, in any case.
+    /// Shows the settings whose key or value holds `text`, in any case. The current row is one of them then,
+    /// none when there is none.
     void filter(const QString &text);
     /// The row of `key`, made with the blocks on its way when it is missing.
     QTreeWidgetItem *addSetting(const QString &key);
     void addBlock(QTreeWidgetItem *parent, const QString &name);
-    /// Removes the current row and everything in it.
+    /// Removes the current row and everything in it, unless the search hides it.
     void removeCurrent();
 
     QTreeWidget *tree() const { return view; }
@@ -50,13 +51,20 @@ private:
     void askForSetting();
     void askForBlock();
     void askForRevert();
-    /// Whether the user lets the file lose what the tree does not hold, and somebody else's change.
-    bool agreesToLosses();
-    bool agreesToOverwrite();
+    /// The text in a cell that is being edited counts as typed.
+    void commitEdit();
+    /// Whether the user lets `current`, the file as it is now, lose what the tree does not hold, and somebody
+    /// else's change.
+    bool agreesToLosses(const ConfigFile &current);
+    bool agreesToOverwrite(const ConfigFile &current);
+    /// The blocks that are shown and not written: those behind the first that hold something.
+    QStringList unwrittenBlocks() const;
     /// The known keys that the file does not set.
     QStringList missingKeys() const;
     QTreeWidgetItem *currentBlock() const;
     QString keyOf(const QTreeWidgetItem *row) const;
+    /// The first row of this key, null when there is none.
+    QTreeWidgetItem *rowOf(const QString &key) const;
     bool isFound(const QTreeWidgetItem *row) const;
 
     std::unique_ptr<ConfigFile> file;

@@ -36,11 +36,11 @@ constexpr char example[] = R"(palvestrin:
 
 )";
 
-/// Presses `button` in the next message box, and keeps what it said.
+/// Presses `button` in the next message box whose text begins with `to`, and keeps what it said.
 class Answer
 {
 public:
-    explicit Answer(QMessageBox::StandardButton with) : button(with)
+    explicit Answer(QMessageBox::StandardButton with, const QString &to = {}) : button(with), beginning(to)
     {
         timer.callOnTimeout([this] { answer(); });
         timer.start(10);
@@ -51,7 +51,7 @@ private:
     void answer()
     {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box || !box->button(button))
+        if (!box || !box->button(button) || !box->text().startsWith(beginning))
             return;
         text = box->text();
         timer.stop();
@@ -59,6 +59,7 @@ private:
     }
 
     QMessageBox::StandardButton button;
+    QString beginning;
     QString text;
     QTimer timer;
 };
@@ -79,20 +80,30 @@ QTreeWidgetItem *rowOf(const ConfigWindow &window, const QString &key)
     return row;
 }
 
-/// Types `text` into the value of `key` as a person does who came there by keyboard.
-bool typeValue(const ConfigWindow &window, const QString &key, const QString &text)
+/// Types `text` into the value of `key` as a person does who came there by keyboard, and stays in the cell.
+/// Null when the cell opens no editor.
+QLineEdit *startTyping(const ConfigWindow &window, const QString &key, const QString &text)
 {
     QTreeWidget *view = window.tree();
     view->setCurrentItem(rowOf(window, key));
     QTest::keyClick(view, Qt::Key_Return);
     auto *editor = view->viewport()->findChild<QLineEdit *>();
     if (!editor)
-        return false;
+        return nullptr;
     editor->selectAll();
     for (const QChar c : text) { // QTest::keyClicks knows ASCII only
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
         QApplication::sendEvent(editor, &press);
     }
+    return editor;
+}
+
+/// The same, and leaves the cell with Return.
+bool typeValue(const ConfigWindow &window, const QString &key, const QString &text)
+{
+    QLineEdit *editor = startTyping(window, key, text);
+    if (!editor)
+        return false;
     QTest::keyClick(editor, Qt::Key_Return);
     QCoreApplication::processEvents(); // the view takes the text over when the key has been handled
     return true;
@@ -125,6 +136,42 @@ private Q_SLOTS:
         QVERIFY(!window.isWindowModified());
         QCOMPARE(folder.read(u"c.conf"_s), QByteArray(example).replace("wide", "42"));
         QCOMPARE(folder.read(u"c.conf.bak"_s), example);
+    }
+
+    void savingTakesWhatIsBeingTyped()
+    {
+        const ScratchFolder folder;
+        ConfigWindow window(folder.write(u"c.conf"_s, example));
+        showActive(window);
+        QLineEdit *editor = startTyping(window, u"palvestrin.receiptdoc.paperWidth"_s, u"42"_s);
+        QVERIFY(editor);
+        QTest::keySequence(editor, QKeySequence::Save);
+        QCOMPARE(folder.read(u"c.conf"_s), QByteArray(example).replace("wide", "42"));
+    }
+
+    void closingAsksAboutWhatIsBeingTyped()
+    {
+        const ScratchFolder folder;
+        ConfigWindow window(folder.write(u"c.conf"_s, example));
+        showActive(window);
+        QVERIFY(startTyping(window, u"palvestrin.receiptdoc.paperWidth"_s, u"42"_s));
+        const Answer save(QMessageBox::Save);
+        QVERIFY(window.close());
+        QCOMPARE(save.question(), u"Save the changes to c.conf?"_s);
+        QCOMPARE(folder.read(u"c.conf"_s), QByteArray(example).replace("wide", "42"));
+    }
+
+    void revertingAsksAboutWhatIsBeingTyped()
+    {
+        const ScratchFolder folder;
+        ConfigWindow window(folder.write(u"c.conf"_s, example));
+        showActive(window);
+        QLineEdit *editor = startTyping(window, u"palvestrin.receiptdoc.paperWidth"_s, u"42"_s);
+        QVERIFY(editor);
+        const Answer no(QMessageBox::No);
+        QTest::keyClick(editor, Qt::Key_F5);
+        QCOMPARE(no.question(), u"Drop all changes and read the file again?"_s);
+        QCOMPARE(rowOf(window, u"palvestrin.receiptdoc.paperWidth"_s)->text(ValueColumn), u"42"_s);
     }
 
     void marksWhatNobodyReadsAndWhatMakesNoSense()
@@ -181,6 +228,29 @@ private Q_SLOTS:
         search->clear();
         QVERIFY(!rowOf(window, u"palvestrin.logger.typ"_s)->isHidden());
         QVERIFY(!window.isWindowModified());
+    }
+
+    void removeDoesNotTouchWhatTheSearchHides()
+    {
+        const ScratchFolder folder;
+        ConfigWindow window(folder.write(u"c.conf"_s, example));
+        showActive(window);
+        auto *search = window.findChild<QLineEdit *>();
+        window.tree()->setCurrentItem(rowOf(window, u"palvestrin.logger.typ"_s));
+        search->setText(u"width"_s); // the blocks around the match are shown, and are none
+        QCOMPARE(window.tree()->currentItem(), rowOf(window, u"palvestrin.receiptdoc.paperWidth"_s));
+        search->setText(u"nothing has this"_s);
+        QTest::keyClick(window.tree(), Qt::Key_Delete);
+        window.tree()->setCurrentItem(rowOf(window, u"palvestrin.logger.typ"_s));
+        QTest::keyClick(window.tree(), Qt::Key_Delete);
+        QVERIFY(!window.isWindowModified());
+        QVERIFY(rowOf(window, u"palvestrin.logger.typ"_s));
+        search->setText(u"level"_s);
+        QTest::keyClick(window.tree(), Qt::Key_Delete);
+        QTest::keyClick(window.tree(), Qt::Key_Delete); // nothing is left that it could mean
+        QVERIFY(!rowOf(window, u"palvestrin.logger.level"_s));
+        QVERIFY(rowOf(window, u"palvestrin.logger.typ"_s));
+        QVERIFY(rowOf(window, u"palvestrin.receiptdoc.paperWidth"_s));
     }
 
     void addsAndRemoves()
@@ -295,7 +365,7 @@ private Q_SLOTS:
             const Answer cancel(QMessageBox::Cancel);
             QVERIFY(!window.save());
             QCOMPARE(cancel.question(),
-                     u"The file holds text that is no setting. Saving loses it; a backup keeps it."_s);
+                     u"Saving loses what the details name. A backup keeps the file as it was."_s);
         }
         QCOMPARE(folder.read(u"c.conf"_s), content);
         {
@@ -304,6 +374,40 @@ private Q_SLOTS:
         }
         QCOMPARE(folder.read(u"c.conf"_s), QByteArray(example).replace("INFO", "FATAL"));
         QCOMPARE(folder.read(u"c.conf.bak.1"_s), content);
+    }
+
+    void aSecondBlockMadeHereIsNotDroppedUnasked()
+    {
+        const ScratchFolder folder;
+        ConfigWindow window(folder.write(u"c.conf"_s, example));
+        showActive(window);
+        rowOf(window, u"palvestrin.logger.level"_s)->setText(ValueColumn, u"FATAL"_s);
+        window.addSetting(u"second.k"_s)->setText(ValueColumn, u"v"_s);
+        {
+            const Answer cancel(QMessageBox::Cancel);
+            QVERIFY(!window.save());
+            QCOMPARE(cancel.question(),
+                     u"Saving loses what the details name. A backup keeps the file as it was."_s);
+        }
+        QCOMPARE(folder.read(u"c.conf"_s), example);
+        QCOMPARE(rowOf(window, u"second.k"_s)->text(ValueColumn), u"v"_s);
+        const Answer save(QMessageBox::Save);
+        QVERIFY(window.save());
+        QCOMPARE(folder.read(u"c.conf"_s), QByteArray(example).replace("INFO", "FATAL"));
+        QVERIFY(!rowOf(window, u"second"_s)); // what is not in the file is not shown either
+    }
+
+    void savingKeepsTheCurrentRowAndTheSearch()
+    {
+        const ScratchFolder folder;
+        ConfigWindow window(folder.write(u"c.conf"_s, example));
+        showActive(window);
+        window.findChild<QLineEdit *>()->setText(u"logger"_s);
+        window.tree()->setCurrentItem(rowOf(window, u"palvestrin.logger.level"_s));
+        rowOf(window, u"palvestrin.logger.level"_s)->setText(ValueColumn, u"FATAL"_s);
+        QVERIFY(window.save());
+        QCOMPARE(window.tree()->currentItem(), rowOf(window, u"palvestrin.logger.level"_s));
+        QVERIFY(rowOf(window, u"palvestrin.receiptdoc"_s)->isHidden());
     }
 
     void savingOverSomebodyElsesChangeAsks()
@@ -325,6 +429,38 @@ private Q_SLOTS:
         }
         QCOMPARE(folder.read(u"c.conf"_s), QByteArray(example).replace("INFO", "FATAL"));
         QCOMPARE(folder.read(u"c.conf.bak"_s), theirs);
+    }
+
+    void somebodyElsesChangeIsAskedAboutUntilItIsSavedOver()
+    {
+        const ScratchFolder folder;
+        ConfigWindow window(folder.write(u"c.conf"_s, example));
+        window.show();
+        rowOf(window, u"palvestrin.logger.level"_s)->setText(ValueColumn, u"FATAL"_s);
+        const QByteArray theirs = QByteArray(example) + "# theirs\n";
+        folder.write(u"c.conf"_s, theirs);
+        {
+            const Answer overwrite(QMessageBox::Save, u"Another program"_s);
+            const Answer keepRemark(QMessageBox::Cancel, u"Saving loses"_s);
+            QVERIFY(!window.save());
+            QVERIFY(!overwrite.question().isEmpty());
+            QVERIFY(!keepRemark.question().isEmpty());
+        }
+        const Answer cancel(QMessageBox::Cancel);
+        QVERIFY(!window.save());
+        QVERIFY(cancel.question().startsWith(u"Another program has changed the file"_s));
+        QCOMPARE(folder.read(u"c.conf"_s), theirs);
+    }
+
+    void removingEverythingKeepsTheXmlForm()
+    {
+        const ScratchFolder folder;
+        ConfigWindow window(folder.write(u"c.xml"_s, "<palvestrin><db dbname='shop'/></palvestrin>"));
+        showActive(window);
+        window.tree()->setCurrentItem(rowOf(window, u"palvestrin"_s));
+        QTest::keyClick(window.tree(), Qt::Key_Delete);
+        QVERIFY(window.save());
+        QCOMPARE(folder.read(u"c.xml"_s), "\n<palvestrin>\n</palvestrin>\n");
     }
 
     void aLockedFileIsNotSavedAndNothingIsLost()
