@@ -18,6 +18,14 @@ constexpr Command commands[] = {
     {"edit"_L1, ""_L1, "change settings in a window"_L1, runConfigEdit},
 };
 
+/// Whether this is the user's own file, and XML.
+bool hasUnreadForm(const CommandLine &line, const ConfigFile &file)
+{
+    return !line.has(u"file"_s) && file.type() == form::xml;
+}
+
+constexpr auto unreadForm = "the programs read this file as text, and it is XML"_L1;
+
 } // namespace
 
 ExitCode runConfig(const QStringList &arguments)
@@ -51,6 +59,21 @@ void requireFile(const ConfigFile &file)
         throw CommandError(ExitCode::Unreadable, file.path,
                            u"there is no such file; \"palvestrin config set\" makes it"_s);
     }
+}
+
+void noteUnreadForm(const CommandLine &line, const ConfigFile &file)
+{
+    if (hasUnreadForm(line, file))
+        printNote(u"%1: %2"_s.arg(file.path, unreadForm));
+}
+
+void requireReadForm(const CommandLine &line, const ConfigFile &file)
+{
+    if (!hasUnreadForm(line, file))
+        return;
+    throw CommandError(ExitCode::Unreadable, file.path,
+                       u"%1; \"palvestrin config convert --to cfg --output %2 %2\" makes it text"_s.arg(
+                           unreadForm, file.path));
 }
 
 void requireKnownKey(const QString &key)

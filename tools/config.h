@@ -27,18 +27,25 @@ QString chosenFile(const CommandLine &line);
 /// Throws a CommandError (Unreadable) when the file is not there.
 void requireFile(const ConfigFile &file);
 
+/// The programs read the user's own file as text, whatever it holds. When it is XML: looking at it gets a
+/// note, changing it throws a CommandError (Unreadable), for no program would see the change.
+void noteUnreadForm(const CommandLine &line, const ConfigFile &file);
+void requireReadForm(const CommandLine &line, const ConfigFile &file);
+
 /// Throws a CommandError (Refused) with the key that was probably meant, unless the key is known.
 void requireKnownKey(const QString &key);
 
 /// Tells where the old file is kept for good, if it is.
 void tellBackup(const QString &path);
 
-/// Locks `path`, reads it, lets `change` change the tree, and saves. Throws a CommandError.
+/// Locks the chosen file, reads it, lets `change` change the tree, and saves. Throws a CommandError.
 template <typename Change>
-void changeFile(const QString &path, bool force, Change change)
+void changeFile(const CommandLine &line, Change change)
 {
+    const QString path = chosenFile(line);
     FileReplacement replacement(path);
     ConfigFile file(path);
+    requireReadForm(line, file);
     change(file);
-    tellBackup(file.save(replacement, force));
+    tellBackup(file.save(replacement, line.has(QStringLiteral("force"))));
 }

@@ -1,6 +1,8 @@
 #include "commanderror.h"
 #include "config.h"
 
+#include <QFileInfo>
+
 #include <iostream>
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,6 +15,21 @@ QByteArray converted(ConfigFile &file, const QString &to, bool force)
     if (!force && !file.losses().empty())
         throw file.lossesAsError();
     return file.written(to, force);
+}
+
+/// Writes the file `path`; with `force` in the place of another, which may be anything and is kept for good.
+void writeOutput(const QString &path, const QByteArray &content, bool force)
+{
+    FileReplacement replacement(path);
+    if (QFileInfo::exists(path)) {
+        if (!force) {
+            throw CommandError(
+                ExitCode::WouldLose, path,
+                u"it is there already; give another name, or --force, which keeps it as a backup"_s);
+        }
+        tellBackup(keepBackup(path, bytesOf(path), true));
+    }
+    replacement.commit(content);
 }
 
 } // namespace
@@ -32,9 +49,10 @@ ExitCode runConfigConvert(const QStringList &arguments)
 
     ConfigFile file(line.argument(0));
     requireFile(file);
-    const QByteArray content = converted(file, to, line.has(u"force"_s));
+    const bool force = line.has(u"force"_s);
+    const QByteArray content = converted(file, to, force);
     if (line.has(u"output"_s)) {
-        FileReplacement(line.value(u"output"_s)).commit(content);
+        writeOutput(line.value(u"output"_s), content, force);
     } else {
         std::cout.write(content.constData(), content.size());
     }

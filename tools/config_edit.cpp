@@ -26,11 +26,13 @@ ExitCode runConfigEdit(const QStringList &arguments)
         throw CommandError(ExitCode::WrongUsage,
                            u"there is no display for a window; use \"palvestrin config set\""_s);
     }
+    const QString path = chosenFile(line);
+    requireReadForm(line, ConfigFile(path));
     int count = 1;
     char name[] = "palvestrin";
     char *words[] = {name, nullptr};
     QApplication application(count, words);
-    ConfigWindow window(chosenFile(line));
+    ConfigWindow window(path);
     window.show();
     QApplication::exec();
     return ExitCode::Done;

@@ -11,6 +11,7 @@ ExitCode runConfigGet(const QStringList &arguments)
         return ExitCode::Done;
     const QString key = line.argument(0);
     const ConfigFile file(chosenFile(line));
+    noteUnreadForm(line, file);
     const QString value = file.config().lookup(key);
     if (!value.isEmpty()) {
         printText(value + u'\n');

@@ -20,6 +20,7 @@ ExitCode runConfigList(const QStringList &arguments)
     ConfigFile file(chosenFile(line));
     if (!file.exists())
         printNote(u"there is no file %1; nothing is set"_s.arg(file.path));
+    noteUnreadForm(line, file);
     const std::vector<ListedKey> keys = listedKeys(file.config(), prefix);
     if (keys.empty())
         requireKnownKey(prefix); // tells what was probably meant

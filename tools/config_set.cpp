@@ -53,7 +53,7 @@ ExitCode runConfigSet(const QStringList &arguments)
         requireSensible(key, value);
     requireStorable(key, value);
 
-    changeFile(chosenFile(line), line.has(u"force"_s), [&](ConfigFile &file) {
+    changeFile(line, [&](ConfigFile &file) {
         if (!setKey(file.config(), key, value))
             refuseOtherBlock(file, key);
     });

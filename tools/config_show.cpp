@@ -9,6 +9,7 @@ ExitCode runConfigShow(const QStringList &arguments)
         return ExitCode::Done;
     const ConfigFile file(chosenFile(line));
     requireFile(file);
+    noteUnreadForm(line, file);
     file.config().printConfigTree();
     return ExitCode::Done;
 }

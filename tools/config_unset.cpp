@@ -10,7 +10,8 @@ ExitCode runConfigUnset(const QStringList &arguments)
     if (!line.parse(arguments, 1, 1))
         return ExitCode::Done;
     const QString key = line.argument(0);
-    changeFile(chosenFile(line), line.has(u"force"_s), [&](ConfigFile &file) {
+    requireFile(ConfigFile(chosenFile(line))); // first, for a change makes the folders that are missing
+    changeFile(line, [&](ConfigFile &file) {
         if (removeKey(file.config(), key))
             return;
         requireKnownKey(key);

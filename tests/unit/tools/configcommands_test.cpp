@@ -7,7 +7,9 @@
 #include <QProcess>
 #include <QTest>
 
+#include <linux/capability.h>
 #include <list>
+#include <sys/prctl.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -316,6 +318,32 @@ private Q_SLOTS:
         QCOMPARE(result.output, "");
     }
 
+    void aReadErrorIsNotTheEndOfTheFile()
+    {
+        const Result result = runOn(u"/proc/self/mem"_s, {u"list"_s}); // a regular file that gives an error
+        QCOMPARE(result.code, 4);
+        QCOMPARE(result.errors, "/proc/self/mem: error: Input/output error\n");
+        QCOMPARE(result.output, "");
+    }
+
+    void aFolderThatMayNotBeEnteredIsNotAMissingFile()
+    {
+        const ScratchFolder folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"closed"_s));
+        QVERIFY(QFile::setPermissions(folder.path(u"closed"_s), {}));
+        const QString path = folder.path(u"closed/c.conf"_s);
+        QProcess process;
+        process.setChildProcessModifier(
+            [] { // root may enter every folder, unless it starts without this right
+                prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH);
+                prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
+            });
+        process.start(QStringLiteral(PALVESTRIN_PROGRAM), {u"config"_s, u"list"_s, u"--file"_s, path});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.readAllStandardError(), path.toUtf8() + ": error: Permission denied\n");
+        QCOMPARE(process.exitCode(), 4);
+    }
+
     void whatIsNoFileIsNotRead()
     {
         const ScratchFolder folder;
@@ -331,6 +359,62 @@ private Q_SLOTS:
         QCOMPARE(run({u"list"_s, u"--names"_s, u"palvestrin.logger"_s}).output,
                  "palvestrin.logger.level\npalvestrin.logger.basedir\npalvestrin.logger.filename\npalvestrin."
                  "logger.type\n");
+    }
+
+    void unsetInAMissingFileMakesNoFolder()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.path(u"a/b/c.conf"_s);
+        const Result result = runOn(path, {u"unset"_s, u"palvestrin.db.dbname"_s});
+        QCOMPARE(result.code, 4);
+        QCOMPARE(result.errors,
+                 path.toUtf8() + ": error: there is no such file; \"palvestrin config set\" makes it\n");
+        QVERIFY(folder.names().isEmpty());
+    }
+
+    void unsettingTheLastKeyKeepsTheXmlForm()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.xml"_s, "<palvestrin><db dbname='shop'/></palvestrin>");
+        QCOMPARE(runOn(path, {u"unset"_s, u"palvestrin.db.dbname"_s}).code, 0);
+        QCOMPARE(folder.read(u"c.xml"_s), "\n<palvestrin>\n</palvestrin>\n");
+        QCOMPARE(runOn(path, {u"set"_s, u"palvestrin.db.dbname"_s, u"bar"_s}).code, 0);
+        QCOMPARE(folder.read(u"c.xml"_s),
+                 "\n<palvestrin>\n\n    <db\n        dbname = \"bar\">\n    </db>\n</palvestrin>\n");
+    }
+
+    void theUsersFileInXmlIsNotTakenAsRead()
+    {
+        const TemporaryHome xmlHome;
+        const QByteArray content = "<palvestrin><db dbname='shop'/></palvestrin>\n";
+        xmlHome.configure(content);
+        const QString path = xmlHome.configurationPath();
+        const QByteArray file = path.toUtf8();
+        const QByteArray reason = "the programs read this file as text, and it is XML";
+        const QByteArray note = "palvestrin: note: " + file + ": " + reason + '\n';
+        const Result got = run({u"get"_s, u"palvestrin.db.dbname"_s});
+        QCOMPARE(got.output, "shop\n");
+        QCOMPARE(got.errors, note);
+        QCOMPARE(run({u"list"_s, u"palvestrin.db.dbname"_s}).errors, note);
+        QCOMPARE(run({u"show"_s}).errors, note);
+        QCOMPARE(runOn(path, {u"get"_s, u"palvestrin.db.dbname"_s}).errors, "");
+
+        for (const QStringList &arguments :
+             {QStringList{u"set"_s, u"palvestrin.db.dbname"_s, u"bar"_s},
+              QStringList{u"unset"_s, u"palvestrin.db.dbname"_s}, QStringList{u"edit"_s}}) {
+            const Result refused = run(arguments);
+            QCOMPARE(refused.code, 4);
+            QCOMPARE(refused.errors, file + ": error: " + reason +
+                                         "; \"palvestrin config convert --to cfg --output " + file + ' ' +
+                                         file + "\" makes it text\n");
+        }
+        QCOMPARE(runOn(path, {u"get"_s, u"palvestrin.db.dbname"_s}).output, "shop\n");
+
+        QCOMPARE(run({u"convert"_s, u"--to"_s, u"cfg"_s, u"--force"_s, u"--output"_s, path, path}).code, 0);
+        QCOMPARE(run({u"set"_s, u"palvestrin.db.dbname"_s, u"bar"_s}).code, 0);
+        const Result now = run({u"get"_s, u"palvestrin.db.dbname"_s});
+        QCOMPARE(now.output, "bar\n");
+        QCOMPARE(now.errors, "");
     }
 
     void aMissingFile()
@@ -417,6 +501,33 @@ private Q_SLOTS:
         QCOMPARE(folder.read(u"c.xml"_s), xml);
         QCOMPARE(run({u"convert"_s, u"--to"_s, u"cfg"_s, xmlPath}).output, example);
         QCOMPARE(folder.read(u"c.conf"_s), example);
+    }
+
+    void convertReplacesNoFileUnaskedAndKeepsIt()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, example);
+        const QString other = folder.write(u"other"_s, "mine\n");
+        for (const QString &output : {path, other}) {
+            const Result refused = run({u"convert"_s, u"--to"_s, u"xml"_s, u"--output"_s, output, path});
+            QCOMPARE(refused.code, 5);
+            QCOMPARE(refused.errors, output.toUtf8() + ": error: it is there already; give another name, or "
+                                                       "--force, which keeps it as a backup\n");
+        }
+        QCOMPARE(folder.read(u"c.conf"_s), example);
+        QCOMPARE(folder.read(u"other"_s), "mine\n");
+
+        for (const QString &output : {path, other}) {
+            const Result forced =
+                run({u"convert"_s, u"--to"_s, u"xml"_s, u"--force"_s, u"--output"_s, output, path});
+            QCOMPARE(forced.code, 0);
+            QCOMPARE(forced.errors,
+                     "palvestrin: note: the file as it was is kept as " + output.toUtf8() + ".bak.1\n");
+        }
+        QVERIFY(folder.read(u"c.conf"_s).startsWith("\n<palvestrin>\n"));
+        QCOMPARE(folder.read(u"c.conf.bak.1"_s), example);
+        QCOMPARE(folder.read(u"other"_s), folder.read(u"c.conf"_s));
+        QCOMPARE(folder.read(u"other.bak.1"_s), "mine\n");
     }
 
     void convertsOnlyWhatTheOtherFormHolds()
