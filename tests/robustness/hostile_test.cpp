@@ -21,6 +21,12 @@ constexpr bool isSanitized = __has_feature(address_sanitizer);
 #else
 constexpr bool isSanitized = false;
 #endif
+// A row's time holds for what restaurants run; a debug build only has to end.
+#ifdef QT_NO_DEBUG
+constexpr bool isOptimised = true;
+#else
+constexpr bool isOptimised = false;
+#endif
 
 constexpr qsizetype million = 1'000'000;
 
@@ -562,7 +568,7 @@ private Q_SLOTS:
         QVERIFY(!ending.wasTooSlow);
         QVERIFY(ending.hasExited);
         QCOMPARE(ending.exitStatus, 0);
-        QVERIFY2(isSanitized || ending.processorSeconds < job.processorSeconds,
+        QVERIFY2(!isOptimised || ending.processorSeconds < job.processorSeconds,
                  QByteArray::number(ending.processorSeconds).constData());
         QCOMPARE(ending.standardOutput, QByteArray());
         QCOMPARE(ending.standardError, QByteArray());
