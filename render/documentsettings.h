@@ -16,6 +16,10 @@ struct DocumentSettings
     int totalPriceFieldWidth = 0;
     int paperWidth = 0;
     int paperRows = 0; ///< kept for a device that feeds sheets; nothing consults it yet
+    /// What a cash register takes of a description; 0 means the width of the printer. It holds for every item
+    /// as it stands in the configuration at that moment; the configuration never changes in a run, so it is
+    /// read with the others.
+    int descriptionWidth = 0;
 
     bool printGeometry = false;
     bool printHeader = false;
@@ -58,6 +62,7 @@ inline constexpr IntegerSetting integerSettings[] = {
     {QLatin1StringView("totalPriceFieldWidth"), &DocumentSettings::totalPriceFieldWidth},
     {QLatin1StringView("paperWidth"), &DocumentSettings::paperWidth},
     {QLatin1StringView("paperRows"), &DocumentSettings::paperRows},
+    {QLatin1StringView("descriptionWidth"), &DocumentSettings::descriptionWidth},
 };
 
 inline constexpr FlagSetting flagSettings[] = {

@@ -11,7 +11,7 @@ namespace {
 /// How much of a description the register takes, in characters.
 int descriptionWidth(PrinterDriver &driver)
 {
-    const int width = driver.documentValue(u"descriptionWidth"_s).toInt();
+    const int width = driver.settings().descriptionWidth;
     return width == 0 ? static_cast<int>(driver.getPaperWidth()) : width;
 }
 

@@ -186,7 +186,7 @@ private Q_SLOTS:
             renderer += setting.key;
         for (const FlagSetting &setting : flagSettings)
             renderer += setting.key;
-        renderer += {u"style"_s, u"topMargin"_s, u"descriptionWidth"_s, u"copyNumber"_s};
+        renderer += {u"style"_s, u"topMargin"_s, u"copyNumber"_s};
         QStringList known;
         for (const knownkeys::DocumentSetting &setting : knownkeys::documentSettings)
             known += setting.name;
