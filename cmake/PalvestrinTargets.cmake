@@ -51,6 +51,10 @@ function(palvestrin_test target)
   target_link_libraries(${target} PRIVATE ${arg_PRIVATE} Qt6::Test)
   palvestrin_compile_rules(${target})
   add_test(NAME ${target} COMMAND ${target})
+  # The toolkit's widgets want a folder for run-time files, and would leave one in /tmp.
+  set(runtime_folder ${PROJECT_BINARY_DIR}/tests/runtime)
+  file(MAKE_DIRECTORY ${runtime_folder})
+  file(CHMOD ${runtime_folder} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
   set_tests_properties(${target} PROPERTIES TIMEOUT 300
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;XDG_RUNTIME_DIR=${runtime_folder}")
 endfunction()
