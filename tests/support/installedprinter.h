@@ -17,7 +17,8 @@ inline void verifyPrintsInItalian(const QString &prefix)
               R"(<job><method name="printFullOrderReceipt"/><receipt serialnumber="7"/></job>)");
     const QString program = prefix + QStringLiteral("/bin/palvestrin-print");
     const QStringList environment = {QStringLiteral("HOME=") + home.path(),
-                                     QStringLiteral("LC_ALL=it_IT.UTF-8")};
+                                     QStringLiteral("LC_ALL=it_IT.UTF-8"),
+                                     QStringLiteral("XDG_RUNTIME_DIR=") + home.path()};
     const QByteArray paper = "\nj\n\" Ricevuta n.: 7\"@\n\"====================\"@\nJ\n";
     const QList<QStringList> starts = {
         {QStringLiteral("job.xml"), QStringLiteral("out")},

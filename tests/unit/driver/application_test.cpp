@@ -31,6 +31,12 @@ QByteArray paperOf(const QString &file)
     return "\n\"" + file.toUtf8() + "\"1*100H1R\r\n";
 }
 
+/// A GUI program makes itself a folder for run-time files where it is told of none, and leaves it.
+QStringList guiEnvironment(const QString &home)
+{
+    return bareEnvironment(home) + QStringList{u"XDG_RUNTIME_DIR="_s + home};
+}
+
 QByteArrayList guiLibrariesIn(const QByteArray &text)
 {
     QByteArrayList found;
@@ -58,7 +64,7 @@ private:
         if (mkfifo(fifo.toUtf8().constData(), 0600) != 0)
             qFatal("cannot make a named pipe");
         QProcess process;
-        process.setEnvironment(bareEnvironment(home.path()));
+        process.setEnvironment(guiEnvironment(home.path()));
         process.start(program, QStringList{fifo, home.filePath(u"out"_s)} + moreWords);
 
         // Opens as soon as the program has opened its end, which is the last thing before it reads.
@@ -82,7 +88,7 @@ private:
     std::pair<bool, QList<QByteArray>> wordsLeftOf(const QStringList &words)
     {
         const ProgramRun run = runProgram(
-            consumedWords, words, bareEnvironment(home.path()) + QStringList{u"QT_QPA_PLATFORM=minimal"_s});
+            consumedWords, words, guiEnvironment(home.path()) + QStringList{u"QT_QPA_PLATFORM=minimal"_s});
         const QList<QByteArray> lines = run.standardOutput.split('\n');
         return {run.failure.isEmpty() && lines.size() == 3, lines.first(qMin<qsizetype>(2, lines.size()))};
     }
@@ -175,7 +181,7 @@ private Q_SLOTS:
         if (hasOutput)
             expected[output] = expected.contains(input) && input != output ? paperOf(input) : QByteArray();
 
-        const ProgramRun run = runProgram(program, words, bareEnvironment(home.path()), folder.path());
+        const ProgramRun run = runProgram(program, words, guiEnvironment(home.path()), folder.path());
         QCOMPARE(run.failure, QString());
         QCOMPARE(run.standardError, QByteArray());
         QCOMPARE(run.standardOutput, hasOutput ? QByteArray() : QByteArray(unableToOpen));
@@ -198,7 +204,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         writeFile(folder.filePath(u"job"_s), jobIn(u"job"_s));
         const ProgramRun run = runProgram(program, {u"job"_s, u"out"_s, u"-reverse"_s},
-                                          bareEnvironment(home.path()) + variables, folder.path());
+                                          guiEnvironment(home.path()) + variables, folder.path());
         QCOMPARE(run.failure, QString());
         QCOMPARE(run.standardOutput + run.standardError, QByteArray());
         QCOMPARE(contentOf(folder.filePath(u"out"_s)), paperOf(u"job"_s));
@@ -212,7 +218,7 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(program, alone));
         writeFile(folder.filePath(u"job"_s), jobIn(u"job"_s));
         const ProgramRun run = runProgram(alone, {u"-reverse"_s, u"job"_s, u"out"_s},
-                                          bareEnvironment(home.path()), folder.path());
+                                          guiEnvironment(home.path()), folder.path());
         QCOMPARE(run.failure, QString());
         QCOMPARE(run.standardOutput, QByteArray());
         QCOMPARE(run.standardError,
@@ -228,7 +234,7 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(program, alone));
         writeFile(folder.filePath(u"job"_s), jobIn(u"job"_s));
         const ProgramRun run =
-            runProgram(alone, {u"job"_s, u"out"_s}, bareEnvironment(home.path()), folder.path());
+            runProgram(alone, {u"job"_s, u"out"_s}, guiEnvironment(home.path()), folder.path());
         QCOMPARE(run.failure + QString::fromUtf8(run.standardOutput + run.standardError), QString());
         QCOMPARE(contentOf(folder.filePath(u"out"_s)), paperOf(u"job"_s));
     }
