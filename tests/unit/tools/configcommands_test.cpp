@@ -283,7 +283,7 @@ private Q_SLOTS:
                 .array();
         QCOMPARE(keys.size(), qsizetype(26)); // 23 settings, the top margin, the copy number, the unknown one
         const auto find = [&keys](const QString &key) {
-            for (const QJsonValue &value : keys) {
+            for (const auto &value : keys) {
                 if (value[u"key"_s].toString() == key)
                     return value.toObject();
             }
