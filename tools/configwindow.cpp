@@ -473,11 +473,10 @@ QString ConfigWindow::keyOf(const QTreeWidgetItem *row) const
 
 QTreeWidgetItem *ConfigWindow::rowOf(const QString &key) const
 {
-    for (QTreeWidgetItemIterator it(view); *it; ++it) {
-        if (keyOf(*it) == key)
-            return *it;
-    }
-    return nullptr;
+    QTreeWidgetItemIterator row(view);
+    while (*row && keyOf(*row) != key)
+        ++row;
+    return *row;
 }
 
 bool ConfigWindow::isFound(const QTreeWidgetItem *row) const
