@@ -1,5 +1,6 @@
-# What is installed beside the programs, and the two Debian packages: palvestrin-print for a server without a
-# desktop, palvestrin-tools for people and for the rare start that carries a toolkit option.
+# What is installed beside the programs, and the three Debian packages: palvestrin-print for a machine that prints,
+# palvestrin-tools for people on the command line, palvestrin-desktop for people with a screen and for the rare start
+# of the renderer that carries a toolkit option.
 #
 #   cpack --config build/release/CPackConfig.cmake
 
@@ -12,7 +13,7 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "Palvestrin Print <print@palvestrin.example>")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
-set(CPACK_COMPONENTS_ALL print tools)
+set(CPACK_COMPONENTS_ALL print tools desktop)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
@@ -24,8 +25,11 @@ receipts, invoices, delivery notes, reports.")
 set(CPACK_DEBIAN_PRINT_PACKAGE_RECOMMENDS palvestrin-tools)
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME palvestrin-tools)
-set(CPACK_COMPONENT_TOOLS_DESCRIPTION "The command palvestrin, which lists, checks and edits the configuration, and the part of palvestrin-print that
-understands the options of the toolkit.")
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION "The command palvestrin, which lists, checks and changes the configuration.")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "palvestrin-print (= ${PROJECT_VERSION})")
+
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME palvestrin-desktop)
+set(CPACK_COMPONENT_DESKTOP_DESCRIPTION "The window palvestrin-settings, which shows and edits the configuration.")
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "palvestrin-tools (= ${PROJECT_VERSION})")
 
 include(CPack)

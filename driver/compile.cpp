@@ -76,7 +76,7 @@ void compile(int argc, char **argv)
     ignoreWriteSignals();
     const auto application = newApplication(argc, argv);
     if (!application) {
-        std::cerr << "palvestrin-print: words that begin with \"-\" need the package palvestrin-tools"
+        std::cerr << "palvestrin-print: words that begin with \"-\" need the package palvestrin-desktop"
                   << std::endl;
         return;
     }

@@ -56,13 +56,21 @@ private Q_SLOTS:
     {
         const QString depends = field(u"palvestrin-tools"_s, u"Depends"_s);
         QVERIFY2(depends.contains("palvestrin-print (= " PACKAGE_VERSION ")"_L1), qPrintable(depends));
+        static const QRegularExpression gui(u"gui|widgets|libx11|libgl"_s);
+        QVERIFY2(!depends.contains(gui), qPrintable(depends));
+    }
+
+    void theWindowIsAPackageOfItsOwn()
+    {
+        const QString depends = field(u"palvestrin-desktop"_s, u"Depends"_s);
+        QVERIFY2(depends.contains("palvestrin-tools (= " PACKAGE_VERSION ")"_L1), qPrintable(depends));
         QVERIFY2(depends.contains("libqt6widgets6"_L1), qPrintable(depends));
     }
 
     void theRendererPrintsAsUnpacked()
     {
         const QString root = folder.filePath(u"root"_s);
-        for (const QString &package : {u"palvestrin-print"_s, u"palvestrin-tools"_s}) {
+        for (const QString &package : {u"palvestrin-print"_s, u"palvestrin-desktop"_s}) {
             const ProgramRun unpack =
                 runProgram(u"dpkg-deb"_s, {u"-x"_s, packagePath(package), root}, environment);
             QCOMPARE(unpack.failure, QString());

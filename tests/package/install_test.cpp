@@ -26,8 +26,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("file");
         for (const char *file :
-             {"bin/palvestrin-print", "bin/palvestrin", "share/man/man1/palvestrin-print.1",
-              "share/man/man1/palvestrin.1", "share/bash-completion/completions/palvestrin",
+             {"bin/palvestrin-print", "bin/palvestrin", "bin/palvestrin-settings",
+              "share/man/man1/palvestrin-print.1", "share/man/man1/palvestrin.1",
+              "share/bash-completion/completions/palvestrin",
               "share/palvestrin/translations/palvestrin_it_IT.qm",
               "share/palvestrin/translations/palvestrin_de_DE.qm",
               "share/palvestrin/translations/palvestrin_fr_FR.qm",

@@ -222,7 +222,7 @@ private Q_SLOTS:
         QCOMPARE(run.failure, QString());
         QCOMPARE(run.standardOutput, QByteArray());
         QCOMPARE(run.standardError,
-                 "palvestrin-print: words that begin with \"-\" need the package palvestrin-tools\n");
+                 "palvestrin-print: words that begin with \"-\" need the package palvestrin-desktop\n");
         QCOMPARE(contentOf(folder.filePath(u"job"_s)), jobIn(u"job"_s));
         QVERIFY(!QFile::exists(folder.filePath(u"out"_s)));
     }

@@ -14,6 +14,7 @@ enum class ExitCode {
     WouldLose = 5,
     Busy = 6,
     WriteFailed = 7,
+    NotInstalled = 8,
 };
 
 struct ExitCodeMeaning
@@ -36,4 +37,7 @@ inline constexpr std::array exitCodeMeanings{
                     QLatin1StringView("Another program is writing the file; nothing was done.")},
     ExitCodeMeaning{ExitCode::WriteFailed,
                     QLatin1StringView("The result cannot be written; the old file stays.")},
+    ExitCodeMeaning{
+        ExitCode::NotInstalled,
+        QLatin1StringView("A part of the house is not installed; the message names its package.")},
 };

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// What stands on a roll of paper: strips of rows of cells, and what happens between the rows.
+///
+/// Readers (of the line printer's stream, of the register's lines) hand it on row by row as they go, painters
+/// take it row by row: nobody holds a whole job, so its length costs no memory.
+namespace paper {
+
+/// How one character is printed.
+struct Style
+{
+    bool bold = false;
+    bool doubleHeight = false;
+    bool doubleWidth = false;
+    bool underlined = false;
+    bool inverse = false;
+
+    bool operator==(const Style &) const = default;
+};
+
+/// One character, its style, and whether the stream is broken at it.
+struct Cell
+{
+    char32_t character = U' ';
+    Style style;
+    bool isBroken = false; ///< the reader found a fault here
+
+    bool operator==(const Cell &) const = default;
+};
+
+struct Row
+{
+    std::vector<Cell> cells;
+    QString meaning; ///< what a register command does, in words; "" for a row of paper
+};
+
+/// What happens between two rows.
+enum class Event { Cut, Drawer, TearOff };
+
+/// What a strip is of.
+enum class StripKind {
+    Paper,    ///< rows of a roll
+    Register, ///< commands to a cash register, each with its meaning
+};
+
+/// Takes what a reader reads, in the order of the paper.
+class Painter
+{
+public:
+    virtual ~Painter() = default;
+    virtual void beginStrip(StripKind kind) = 0;
+    virtual void row(const Row &row) = 0;
+    virtual void event(Event event) = 0;
+    virtual void endStrip() = 0;
+};
+
+/// What is wrong with a stream, and where: lines and columns count from 1, columns in characters.
+struct Fault
+{
+    qint64 line = 1;
+    qint64 column = 1;
+    QString what;
+};
+
+/// Columns that a character takes on paper: 0 for a combining mark, 2 for a wide (East Asian) one, else 1.
+int columnsOf(char32_t character);
+
+} // namespace paper
