@@ -1,6 +1,7 @@
 #include "compile.h"
 
 #include "application.h"
+#include "applicationkeys.h"
 #include "jobreader.h"
 #include "pvconfiguration.h"
 
@@ -46,8 +47,8 @@ void ignoreWriteSignals()
 /// A missing catalogue is no fault: the labels then print as they are written in the code.
 void loadCatalogue(QTranslator &translator, const PVConfiguration &configuration)
 {
-    const QString basedir = configuration.getStrValue(u"palvestrin.language.basedir"_s);
-    const QString file = configuration.getStrValue(u"palvestrin.language.file"_s);
+    const QString basedir = configuration.getStrValue(applicationkey::languageBaseDir);
+    const QString file = configuration.getStrValue(applicationkey::languageFile);
     if (file == "/"_L1) // the marker for a catalogue named after the locale
         (void)translator.load(basedir + "/palvestrin_"_L1 + QLocale::system().name(), u"."_s);
     else

@@ -1,19 +1,16 @@
 #include "logger.h"
 
+#include "applicationkeys.h"
 #include "pvconfiguration.h"
 
 #include <QDateTime>
 
 #include <algorithm>
-#include <array>
 #include <iostream>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// Indexed by Logger::Level.
-constexpr std::array levelNames = {"DEBUG"_L1, "INFO"_L1, "WARNING"_L1, "ERROR"_L1, "FATAL"_L1};
 
 QString setting(const QString &key)
 {
@@ -24,10 +21,10 @@ QString setting(const QString &key)
 
 Logger::Logger(const QString & /*name*/)
 {
-    setLevel(setting(u"palvestrin.logger.level"_s));
-    fileName = setting(u"palvestrin.logger.basedir"_s) + u'/' + setting(u"palvestrin.logger.filename"_s);
+    setLevel(setting(applicationkey::loggerLevel));
+    fileName = setting(applicationkey::loggerBaseDir) + u'/' + setting(applicationkey::loggerFileName);
     file = std::make_unique<QFile>(fileName);
-    setType(setting(u"palvestrin.logger.type"_s));
+    setType(setting(applicationkey::loggerType));
     stream = std::make_unique<QTextStream>(file.get());
     write(DEBUG, u"Start Logger"_s);
 }
@@ -39,17 +36,18 @@ Logger::~Logger()
 
 void Logger::setLevel(const QString &value)
 {
-    const auto found = std::find(levelNames.begin(), levelNames.end(), value.toUpper());
-    level = found == levelNames.end() ? DEBUG : static_cast<Level>(found - levelNames.begin());
+    const auto found = std::ranges::find(vocabulary::logLevels, value.toUpper());
+    const bool isKnown = found != std::end(vocabulary::logLevels);
+    level = isKnown ? static_cast<Level>(found - std::begin(vocabulary::logLevels)) : DEBUG;
 }
 
 void Logger::setType(const QString &value)
 {
     const QString type = value.toUpper();
     QIODevice::OpenMode mode;
-    if (type == "APPEND"_L1) {
+    if (type == vocabulary::logAppend) {
         mode = QIODevice::Append; // alone is enough: it implies writing
-    } else if (type == "OVERWRITE"_L1) {
+    } else if (type == vocabulary::logOverwrite) {
         mode = QIODevice::WriteOnly;
     } else {
         return;
@@ -65,7 +63,7 @@ void Logger::write(Level lvl, const QString &message)
     if (level > lvl || !file->isOpen())
         return;
     *stream << '[' << QDateTime::currentDateTime().toString(u"MM-dd-yyyy hh:mm:ss:zzz"_s) << "] "
-            << levelNames[static_cast<std::size_t>(lvl)] << ": " << message << '\n';
+            << vocabulary::logLevels[lvl] << ": " << message << '\n';
     stream->flush();
     // A stream that failed once, on a full disk for instance, would keep every later line in memory.
     stream->resetStatus();

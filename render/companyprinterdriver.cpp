@@ -2,6 +2,7 @@
 
 #include "columns.h"
 #include "localeoutput.h"
+#include "printmethods.h"
 
 #include <QStringMatcher>
 
@@ -21,7 +22,7 @@ CompanyPrinterDriver::~CompanyPrinterDriver() = default;
 
 unsigned int CompanyPrinterDriver::getPaperWidth()
 {
-    return paperWidth;
+    return lineWidth;
 }
 
 void CompanyPrinterDriver::setBold() {}
@@ -95,7 +96,8 @@ void CompanyPrinterDriver::println(const QString &text)
 
 bool CompanyPrinterDriver::isFiscal() const
 {
-    return currentMethod == "printAbstractOrderFiscal"_L1 || currentMethod == "printFullOrderFiscal"_L1;
+    const vocabulary::PrintMethod *method = vocabulary::findPrintMethod(currentMethod);
+    return method && method->kind == "fiscal"_L1;
 }
 
 void CompanyPrinterDriver::write(const QString &text)

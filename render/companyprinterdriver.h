@@ -17,7 +17,7 @@ class CompanyPrinterDriver : public PrinterDriver
 {
 public:
     /// Characters on a line of this printer, and the `paperWidth` of a document kind that sets none.
-    static constexpr unsigned int paperWidth = 32;
+    static constexpr unsigned int lineWidth = 32;
 
     /// Empties or makes the file at once.
     explicit CompanyPrinterDriver(const QString &fileName);

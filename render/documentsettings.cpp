@@ -6,11 +6,13 @@ using namespace Qt::Literals::StringLiterals;
 
 DocumentSettings DocumentSettings::read(const PVConfiguration &configuration, const QString &docPath)
 {
-    // A "style" key stands in configurations too. It has no effect, so nothing reads it.
     DocumentSettings settings;
-    for (const IntegerSetting &setting : integerSettings)
-        settings.*setting.member = configuration.getStrValue(docPath + setting.key).toInt();
-    for (const FlagSetting &setting : flagSettings)
-        settings.*setting.member = configuration.getStrValue(docPath + setting.key) == "true"_L1;
+    for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings) {
+        const auto value = [&] { return configuration.getStrValue(docPath + setting.name); };
+        if (const auto *count = std::get_if<vocabulary::CountMember>(&setting.member))
+            settings.**count = value().toInt();
+        else if (const auto *flag = std::get_if<vocabulary::FlagMember>(&setting.member))
+            settings.**flag = value() == vocabulary::flagOn;
+    }
     return settings;
 }

@@ -1,25 +1,28 @@
 #pragma once
 
+#include "documentkinds.h"
+#include "valuekind.h"
+
 #include <QLatin1StringView>
 #include <QString>
+
+#include <variant>
 
 class PVConfiguration;
 
 /// The settings of one document kind, named like their configuration keys. Widths count characters.
 ///
-/// They stand in a struct of their own because two of them, `printGeometry` and `printLogo`, share their
-/// names with operations of the driver.
+/// `PrinterDriver` is one, so that a device finds each by its name. Two share their names with operations of
+/// the driver and are reached as `DocumentSettings::printGeometry` and `DocumentSettings::printLogo`.
 struct DocumentSettings
 {
     int quantityFieldWidth = 0;
     int priceFieldWidth = 0; ///< unit price; the amount in a statement of account
     int totalPriceFieldWidth = 0;
     int paperWidth = 0;
-    int paperRows = 0; ///< kept for a device that feeds sheets; nothing consults it yet
-    /// What a cash register takes of a description; 0 means the width of the printer. It holds for every item
-    /// as it stands in the configuration at that moment; the configuration never changes in a run, so it is
-    /// read with the others.
-    int descriptionWidth = 0;
+    int paperRows = 0;        ///< kept for a device that feeds sheets; nothing consults it yet
+    int topMargin = 0;        ///< empty lines
+    int descriptionWidth = 0; ///< what a cash register takes of a description; 0 means the printer's width
 
     bool printGeometry = false;
     bool printHeader = false;
@@ -39,48 +42,68 @@ struct DocumentSettings
     bool printNote = false;
     bool openCashDrawer = false; ///< kept for the device; nothing consults it yet
 
-    /// Reads every setting under the key prefix `docPath`, for instance "palvestrin.receiptdoc.". A width
-    /// that is missing or no number is 0; a flag is true only for exactly "true".
+    /// Reads every setting under the key prefix `docPath`, for instance "palvestrin.receiptdoc.". A number
+    /// that is missing or none is 0; a flag is true only for exactly "true".
     static DocumentSettings read(const PVConfiguration &configuration, const QString &docPath);
 };
 
-struct IntegerSetting
+namespace vocabulary {
+
+using CountMember = int DocumentSettings::*;
+using FlagMember = bool DocumentSettings::*;
+
+/// A setting in the block of every document kind. Which elements consult it, and so which print methods, is
+/// told by the rows of documents.h.
+struct DocumentSetting
 {
-    QLatin1StringView key;
-    int DocumentSettings::*member;
+    QLatin1StringView name;
+    ValueKind kind;
+    QLatin1StringView meaning;
+    /// Where it is kept. One that is kept nowhere stands in configurations and no print method asks for it.
+    std::variant<std::monostate, CountMember, FlagMember> member = {};
 };
 
-struct FlagSetting
-{
-    QLatin1StringView key;
-    bool DocumentSettings::*member;
+/// To add a setting, add a member above and its row here.
+inline constexpr DocumentSetting documentSettings[] = {
+    {"quantityFieldWidth"_L1, ValueKind::Count, "characters of the quantity column"_L1,
+     &DocumentSettings::quantityFieldWidth},
+    {"priceFieldWidth"_L1, ValueKind::Count,
+     "characters of the unit price column, and of the amount in a statement of account"_L1,
+     &DocumentSettings::priceFieldWidth},
+    {"totalPriceFieldWidth"_L1, ValueKind::Count, "characters of the line total column"_L1,
+     &DocumentSettings::totalPriceFieldWidth},
+    {"paperWidth"_L1, ValueKind::Width, "characters of a line"_L1, &DocumentSettings::paperWidth},
+    {"paperRows"_L1, ValueKind::Count, "rows of a page; no effect"_L1, &DocumentSettings::paperRows},
+    {"style"_L1, ValueKind::Text, "no effect: each document has its own layout"_L1},
+    {"printGeometry"_L1, ValueKind::Flag, "print the top margin"_L1, &DocumentSettings::printGeometry},
+    {"printHeader"_L1, ValueKind::Flag, "print the free header lines"_L1, &DocumentSettings::printHeader},
+    {"printLogo"_L1, ValueKind::Flag, "no effect: a logo in the job is always printed"_L1,
+     &DocumentSettings::printLogo},
+    {"printCompany"_L1, ValueKind::Flag, "print the company's lines"_L1, &DocumentSettings::printCompany},
+    {"printDeliveryAddress"_L1, ValueKind::Flag, "print the delivery address, with printCustomer"_L1,
+     &DocumentSettings::printDeliveryAddress},
+    {"printBillingAddress"_L1, ValueKind::Flag, "print the billing address, with printCustomer"_L1,
+     &DocumentSettings::printBillingAddress},
+    {"printTelephone"_L1, ValueKind::Flag, "print the customer's telephone, with printCustomer"_L1,
+     &DocumentSettings::printTelephone},
+    {"printDate"_L1, ValueKind::Flag, "print the order's date"_L1, &DocumentSettings::printDate},
+    {"printTime"_L1, ValueKind::Flag, "print the order's time"_L1, &DocumentSettings::printTime},
+    {"printTable"_L1, ValueKind::Flag, "print the order's table"_L1, &DocumentSettings::printTable},
+    {"printCustomer"_L1, ValueKind::Flag, "print the customer block"_L1, &DocumentSettings::printCustomer},
+    {"printLicenseNumber"_L1, ValueKind::Flag, "print the customer's license number, with printCustomer"_L1,
+     &DocumentSettings::printLicenseNumber},
+    {"printFiscalCode"_L1, ValueKind::Flag, "print the customer's fiscal code, with printCustomer"_L1,
+     &DocumentSettings::printFiscalCode},
+    {"printCredit"_L1, ValueKind::Flag, "print the order's credit"_L1, &DocumentSettings::printCredit},
+    {"printWaiter"_L1, ValueKind::Flag, "print the order's waiter"_L1, &DocumentSettings::printWaiter},
+    {"printNote"_L1, ValueKind::Flag, "print the order's note"_L1, &DocumentSettings::printNote},
+    {"openCashDrawer"_L1, ValueKind::Flag, "no effect: the drawer is never opened"_L1,
+     &DocumentSettings::openCashDrawer},
+    {"topMargin"_L1, ValueKind::Count, "empty lines on top, with printGeometry"_L1,
+     &DocumentSettings::topMargin},
+    {"descriptionWidth"_L1, ValueKind::Width, "characters of an item's name that go to the register"_L1,
+     &DocumentSettings::descriptionWidth},
+    {copyNumberSetting, ValueKind::Text, "number of copies; one copy is printed all the same"_L1},
 };
 
-inline constexpr IntegerSetting integerSettings[] = {
-    {QLatin1StringView("quantityFieldWidth"), &DocumentSettings::quantityFieldWidth},
-    {QLatin1StringView("priceFieldWidth"), &DocumentSettings::priceFieldWidth},
-    {QLatin1StringView("totalPriceFieldWidth"), &DocumentSettings::totalPriceFieldWidth},
-    {QLatin1StringView("paperWidth"), &DocumentSettings::paperWidth},
-    {QLatin1StringView("paperRows"), &DocumentSettings::paperRows},
-    {QLatin1StringView("descriptionWidth"), &DocumentSettings::descriptionWidth},
-};
-
-inline constexpr FlagSetting flagSettings[] = {
-    {QLatin1StringView("printGeometry"), &DocumentSettings::printGeometry},
-    {QLatin1StringView("printHeader"), &DocumentSettings::printHeader},
-    {QLatin1StringView("printLogo"), &DocumentSettings::printLogo},
-    {QLatin1StringView("printCompany"), &DocumentSettings::printCompany},
-    {QLatin1StringView("printDeliveryAddress"), &DocumentSettings::printDeliveryAddress},
-    {QLatin1StringView("printBillingAddress"), &DocumentSettings::printBillingAddress},
-    {QLatin1StringView("printTelephone"), &DocumentSettings::printTelephone},
-    {QLatin1StringView("printDate"), &DocumentSettings::printDate},
-    {QLatin1StringView("printTime"), &DocumentSettings::printTime},
-    {QLatin1StringView("printTable"), &DocumentSettings::printTable},
-    {QLatin1StringView("printCustomer"), &DocumentSettings::printCustomer},
-    {QLatin1StringView("printLicenseNumber"), &DocumentSettings::printLicenseNumber},
-    {QLatin1StringView("printFiscalCode"), &DocumentSettings::printFiscalCode},
-    {QLatin1StringView("printCredit"), &DocumentSettings::printCredit},
-    {QLatin1StringView("printWaiter"), &DocumentSettings::printWaiter},
-    {QLatin1StringView("printNote"), &DocumentSettings::printNote},
-    {QLatin1StringView("openCashDrawer"), &DocumentSettings::openCashDrawer},
-};
+} // namespace vocabulary

@@ -19,13 +19,12 @@ int descriptionWidth(PrinterDriver &driver)
 
 void PrinterDriver::printFullOrderFiscal(const QString &element, const QXmlAttributes &attributes)
 {
-    // No header sections: a register prints its own.
-    printElement(fullFiscalElements, *this, element, attributes);
+    printDocument(vocabulary::fullFiscal, element, attributes);
 }
 
 void PrinterDriver::printAbstractOrderFiscal(const QString &element, const QXmlAttributes &attributes)
 {
-    printElement(abstractFiscalElements, *this, element, attributes);
+    printDocument(vocabulary::abstractFiscal, element, attributes);
 }
 
 void printFiscalItem(PrinterDriver &driver, const QXmlAttributes &attributes)

@@ -4,28 +4,10 @@
 #include "printerdriver.h"
 
 #include <QObject>
-#include <QStringTokenizer>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// The lines of an address stand in one attribute, between commas. An empty one ends the list, even in the
-/// middle.
-void printAddress(PrinterDriver &driver, const QString &address)
-{
-    for (const QStringView line : QStringTokenizer(address, u',')) {
-        if (line.isEmpty())
-            return;
-        driver.println(1, line.trimmed().toString());
-    }
-}
-
-void printLabelled(PrinterDriver &driver, const QString &label, const QString &value)
-{
-    driver.print(1, label);
-    driver.println(1, value);
-}
 
 void printEveryValue(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
@@ -37,7 +19,10 @@ void printEveryValue(PrinterDriver &driver, const QXmlAttributes &attributes)
 
 bool PrinterDriver::printSections(const QString &element, const QXmlAttributes &attributes)
 {
-    return printElement(sectionElements, *this, element, attributes);
+    const vocabulary::Element *section = vocabulary::findElement(vocabulary::sectionElements, element);
+    if (section)
+        section->print(*this, attributes);
+    return section;
 }
 
 void printPrintersSection(PrinterDriver &driver, const QXmlAttributes &attributes)
@@ -94,9 +79,8 @@ void printCustomer(PrinterDriver &driver, const QXmlAttributes &attributes)
 
 void PrinterDriver::printGeometry(const QXmlAttributes &)
 {
-    if (!documentSettings.printGeometry)
+    if (!DocumentSettings::printGeometry)
         return;
-    const int topMargin = documentValue(u"topMargin"_s).toInt();
     for (int line = 0; line < topMargin; ++line)
         println(QString());
 }
@@ -110,7 +94,7 @@ void PrinterDriver::printPrinterInfo()
 
 void PrinterDriver::printHeaders(const QXmlAttributes &attributes)
 {
-    if (!documentSettings.printHeader)
+    if (!printHeader)
         return;
     printEveryValue(*this, attributes);
     printSeparatorLine();
@@ -118,7 +102,7 @@ void PrinterDriver::printHeaders(const QXmlAttributes &attributes)
 
 void PrinterDriver::printCompanyHeader(const QXmlAttributes &attributes)
 {
-    if (!documentSettings.printCompany)
+    if (!printCompany)
         return;
     setCharSize();
     setCenterJustify();
@@ -129,57 +113,36 @@ void PrinterDriver::printCompanyHeader(const QXmlAttributes &attributes)
 
 void PrinterDriver::printReceiptHeader(const QXmlAttributes &attributes)
 {
-    println(1, QObject::tr("Serial Number: ") + attributes.value("serialnumber"_L1));
+    printLines(*this, vocabulary::receiptAttributes, attributes);
     printSeparatorLine();
 }
 
 void PrinterDriver::printInvoiceHeader(const QXmlAttributes &attributes)
 {
-    printLabelled(*this, QObject::tr("Invoice Number:"), attributes.value("serialnumber"_L1));
+    printLines(*this, vocabulary::invoiceAttributes, attributes);
     printSeparatorLine();
 }
 
 void PrinterDriver::printDeliveryHeader(const QXmlAttributes &attributes)
 {
-    printLabelled(*this, QObject::tr("Delivery Number:"), attributes.value("serialnumber"_L1));
+    printLines(*this, vocabulary::deliveryAttributes, attributes);
     printSeparatorLine();
 }
 
 void PrinterDriver::printOrderInfo(const QXmlAttributes &attributes)
 {
     setCharSize();
-    if (documentSettings.printDate)
-        printLabelled(*this, QObject::tr("Date:"), attributes.value("date"_L1));
-    if (documentSettings.printTime)
-        printLabelled(*this, QObject::tr("Time:"), attributes.value("time"_L1));
-    if (documentSettings.printTable)
-        printLabelled(*this, QObject::tr("Table:"), attributes.value("table"_L1));
-    if (documentSettings.printWaiter)
-        printLabelled(*this, QObject::tr("Waiter:"), attributes.value("waiter"_L1));
-    if (documentSettings.printNote)
-        printLabelled(*this, QObject::tr("Note:"), attributes.value("note"_L1));
-    if (documentSettings.printCredit) {
+    if (printCredit)
         orderCredit = attributes.value("credit"_L1);
-        printLabelled(*this, QObject::tr("Credit:"), orderCredit);
-    }
+    printLines(*this, vocabulary::orderInfoAttributes, attributes);
     printSeparatorLine();
 }
 
 void PrinterDriver::printCustomerHeader(const QXmlAttributes &attributes)
 {
-    if (!documentSettings.printCustomer)
+    if (!printCustomer)
         return;
     println(QObject::tr("CUSTOMER"));
-    println(1, attributes.value("name"_L1));
-    if (documentSettings.printBillingAddress)
-        printAddress(*this, attributes.value("billingaddress"_L1));
-    if (documentSettings.printDeliveryAddress)
-        printAddress(*this, attributes.value("deliveryaddress"_L1));
-    if (documentSettings.printTelephone)
-        printLabelled(*this, QObject::tr("Telephone:"), attributes.value("telephone"_L1));
-    if (documentSettings.printLicenseNumber)
-        printLabelled(*this, QObject::tr("License Number:"), attributes.value("licensenumber"_L1));
-    if (documentSettings.printFiscalCode)
-        printLabelled(*this, QObject::tr("Fiscal Code:"), attributes.value("fiscalcode"_L1));
+    printLines(*this, vocabulary::customerAttributes, attributes);
     printSeparatorLine();
 }

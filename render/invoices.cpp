@@ -7,25 +7,14 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-void printTotalsRow(PrinterDriver &driver, const QString &title, const QString &value)
-{
-    driver.println(driver.descriptionRow(QString(), title, QString(), value, u'.', u"qdpt"_s));
-}
-
-} // namespace
-
 void PrinterDriver::printFullOrderInvoice(const QString &element, const QXmlAttributes &attributes)
 {
-    if (!printSections(element, attributes))
-        printElement(fullInvoiceElements, *this, element, attributes);
+    printDocument(vocabulary::fullInvoice, element, attributes);
 }
 
 void PrinterDriver::printAbstractOrderInvoice(const QString &element, const QXmlAttributes &attributes)
 {
-    if (!printSections(element, attributes))
-        printElement(abstractInvoiceElements, *this, element, attributes);
+    printDocument(vocabulary::abstractInvoice, element, attributes);
 }
 
 void PrinterDriver::printFullOrderDelivery(const QString &element, const QXmlAttributes &attributes)
@@ -51,9 +40,6 @@ void printInvoiceTotals(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
     driver.setBold();
     driver.println(QString());
-    printTotalsRow(driver, QObject::tr("Taxable"), attributes.value("taxable"_L1));
-    printTotalsRow(driver, QObject::tr("TaxRate"), attributes.value("taxrate"_L1));
-    printTotalsRow(driver, QObject::tr("Tax"), attributes.value("tax"_L1));
-    printTotalsRow(driver, QObject::tr("TOTAL"), attributes.value("total"_L1));
+    printLines(driver, vocabulary::invoiceTotalsAttributes, attributes);
     driver.setCharSize();
 }

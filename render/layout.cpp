@@ -14,9 +14,9 @@ constexpr int dateWidth = 15; ///< of the date column in a statement of account
 /// What of the paper is left when `taken` characters are, in 32-bit arithmetic that wraps: widths come from
 /// the configuration as they stand, and no sum of them may be an overflow.
 template <typename... Widths>
-int leftOver(int paperWidth, Widths... taken)
+int leftOver(int paper, Widths... taken)
 {
-    return static_cast<int>(static_cast<unsigned>(paperWidth) - (static_cast<unsigned>(taken) + ...));
+    return static_cast<int>(static_cast<unsigned>(paper) - (static_cast<unsigned>(taken) + ...));
 }
 
 } // namespace
@@ -25,10 +25,10 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
                                       const QString &price, const QString &total, QChar fill,
                                       const QString &style) const
 {
-    const int Q = documentSettings.quantityFieldWidth;
-    const int P = documentSettings.priceFieldWidth;
-    const int T = documentSettings.totalPriceFieldWidth;
-    const int W = documentSettings.paperWidth;
+    const int Q = quantityFieldWidth;
+    const int P = priceFieldWidth;
+    const int T = totalPriceFieldWidth;
+    const int W = paperWidth;
     const QChar blank = u' ';
 
     // The description is the one column that is cut: it loses its tail, whatever else the row holds.
@@ -86,5 +86,5 @@ void PrinterDriver::printColumnsHeader(const QString &quantity, const QString &d
 
 void PrinterDriver::printSeparatorLine()
 {
-    println(columns::leftJustified(QString(), documentSettings.paperWidth, u'='));
+    println(columns::leftJustified(QString(), paperWidth, u'='));
 }

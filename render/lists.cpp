@@ -9,14 +9,12 @@ using namespace Qt::Literals::StringLiterals;
 
 void PrinterDriver::printSold(const QString &element, const QXmlAttributes &attributes)
 {
-    if (!printSections(element, attributes))
-        printElement(soldElements, *this, element, attributes);
+    printDocument(vocabulary::soldList, element, attributes);
 }
 
 void PrinterDriver::printStatementOfAccount(const QString &element, const QXmlAttributes &attributes)
 {
-    if (!printSections(element, attributes))
-        printElement(statementElements, *this, element, attributes);
+    printDocument(vocabulary::statementOfAccount, element, attributes);
 }
 
 void printSoldItem(PrinterDriver &driver, const QXmlAttributes &attributes)

@@ -44,14 +44,12 @@ void PrinterDriver::printPartialOrder(const QString &element, const QXmlAttribut
 {
     // A ticket has no column titles. They would stand above the order information, and that is a header
     // section.
-    if (!printSections(element, attributes))
-        printElement(partialOrderElements, *this, element, attributes);
+    printDocument(vocabulary::partialOrder, element, attributes);
 }
 
 void PrinterDriver::printFullOrder(const QString &element, const QXmlAttributes &attributes)
 {
-    if (!printSections(element, attributes))
-        printElement(fullOrderElements, *this, element, attributes);
+    printDocument(vocabulary::fullOrder, element, attributes);
 }
 
 void printTicketItem(PrinterDriver &driver, const QXmlAttributes &attributes)
@@ -90,6 +88,5 @@ void printPricedTotal(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
     driver.println(QString());
     driver.setBold(); // and not switched off: the total is the last line
-    driver.println(driver.descriptionRow(QString(), QObject::tr("TOTAL"), QString(),
-                                         attributes.value("price"_L1), u'.', u"qdpt"_s));
+    printLines(driver, vocabulary::totalAttributes, attributes);
 }

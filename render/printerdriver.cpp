@@ -45,9 +45,9 @@ bool PrinterDriver::endDocument()
 bool PrinterDriver::startElement(const QString &, const QString &, const QString &qName,
                                  const QXmlAttributes &attributes)
 {
-    if (qName == "method"_L1)
+    if (qName == vocabulary::methodElement.name)
         return chooseMethod(attributes.value("name"_L1));
-    if (const PrintMethod *method = findPrintMethod(currentMethod))
+    if (const vocabulary::PrintMethod *method = vocabulary::findPrintMethod(currentMethod))
         (this->*method->print)(qName, attributes);
     return true;
 }
@@ -60,7 +60,7 @@ bool PrinterDriver::endElement(const QString &, const QString &, const QString &
 /// False, which ends the job, when there is no such method.
 bool PrinterDriver::chooseMethod(const QString &name)
 {
-    const PrintMethod *method = findPrintMethod(name);
+    const vocabulary::PrintMethod *method = vocabulary::findPrintMethod(name);
     if (!method) {
         std::cout << "File Format Not Supported" << std::endl;
         currentMethod.clear();
@@ -68,8 +68,8 @@ bool PrinterDriver::chooseMethod(const QString &name)
     }
     loadValues(method->kind);
     currentMethod = name;
-    if (method->duplicate != Duplicate::Unchanged)
-        duplicate = method->duplicate == Duplicate::Yes;
+    if (method->duplicate != vocabulary::Duplicate::Unchanged)
+        duplicate = method->duplicate == vocabulary::Duplicate::Yes;
     startSection();
     return true;
 }
@@ -92,20 +92,27 @@ bool PrinterDriver::printDuplicate()
 QString PrinterDriver::documentPath(const QString &kind)
 {
     const QString lowerKind = kind.toLower();
-    for (const DocumentKind &known : documentKinds) {
-        if (lowerKind == known.name)
-            return known.path;
-    }
+    if (const vocabulary::DocumentKind *known = vocabulary::findDocumentKind(lowerKind))
+        return known->path();
     std::cout << "Error into PrinterDriver::documentPath:  " << qUtf8Printable(lowerKind) << std::endl;
-    return u"palvestrin.prefiscaldoc."_s;
+    return vocabulary::fallbackKind.path();
 }
 
 void PrinterDriver::loadValues(const QString &kind)
 {
     docPath = documentPath(kind);
-    documentSettings = DocumentSettings::read(*configuration, docPath);
-    if (documentSettings.paperWidth == 0)
-        documentSettings.paperWidth = static_cast<int>(getPaperWidth());
+    static_cast<DocumentSettings &>(*this) = read(*configuration, docPath);
+    if (paperWidth == 0)
+        paperWidth = static_cast<int>(getPaperWidth());
+}
+
+void PrinterDriver::printDocument(const vocabulary::Document &document, const QString &element,
+                                  const QXmlAttributes &attributes)
+{
+    if (document.hasSections && printSections(element, attributes))
+        return;
+    if (const vocabulary::Element *known = vocabulary::findElement(document.elements, element))
+        known->print(*this, attributes);
 }
 
 bool PrinterDriver::oneTime()
@@ -116,11 +123,6 @@ bool PrinterDriver::oneTime()
     return true;
 }
 
-QString PrinterDriver::documentValue(const QString &setting) const
-{
-    return configuration->getStrValue(docPath + setting);
-}
-
 void PrinterDriver::storePrinter(const QXmlAttributes &attributes)
 {
     printerName = attributes.value("name"_L1);
@@ -129,23 +131,11 @@ void PrinterDriver::storePrinter(const QXmlAttributes &attributes)
     printerPort = attributes.value("port"_L1);
 }
 
-const PrintMethod *findPrintMethod(const QString &name)
+const vocabulary::PrintMethod *vocabulary::findPrintMethod(const QString &name)
 {
     for (const PrintMethod &method : printMethods) {
         if (name == method.name)
             return &method;
     }
     return nullptr;
-}
-
-bool printElement(std::span<const ElementAction> actions, PrinterDriver &driver, const QString &element,
-                  const QXmlAttributes &attributes)
-{
-    for (const ElementAction &action : actions) {
-        if (element == action.element) {
-            action.print(driver, attributes);
-            return true;
-        }
-    }
-    return false;
 }

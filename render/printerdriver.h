@@ -11,6 +11,10 @@
 class LocaleOutput;
 class PVConfiguration;
 
+namespace vocabulary {
+struct Document;
+}
+
 /// The titles above the rows of items, in the language of the catalogue.
 struct ItemTitles
 {
@@ -32,7 +36,9 @@ struct ItemTitles
 ///   - `print` and `println` for text, any number of times in between;
 ///   - `setBold`, `setCharSize`, `setCenterJustify` before the text that they concern; they last until the
 ///   next.
-class PrinterDriver : public QXmlDefaultHandler
+/// It is also the settings of the current document kind, each under its name. Two of those names are
+/// operations of the driver too: `DocumentSettings::printGeometry` and `DocumentSettings::printLogo`.
+class PrinterDriver : public QXmlDefaultHandler, protected DocumentSettings
 {
 public:
     /// Opens `fileName` for writing at once (emptied unless `append`). When that fails it says so in one line
@@ -127,9 +133,7 @@ public:
     QString descriptionRow(const QString &quantity, const QString &description, const QString &price,
                            const QString &total, QChar fill, const QString &style) const;
 
-    const DocumentSettings &settings() const { return documentSettings; }
-    /// A setting of the current document kind that is read where it is used, as text.
-    QString documentValue(const QString &setting) const;
+    const DocumentSettings &settings() const { return *this; }
 
     /// Keeps the attributes of the `printers` element.
     void storePrinter(const QXmlAttributes &attributes);
@@ -147,11 +151,13 @@ protected:
     QString printerCharSize; ///< this and the next two are kept for device drivers
     QString printerIpAddress;
     QString printerPort;
-    DocumentSettings documentSettings;
     QString orderCredit; ///< of the last `orderinfo` that printed its credit
 
 private:
     bool chooseMethod(const QString &name);
+    /// Prints an element of the document, or nothing when it has none of that name.
+    void printDocument(const vocabulary::Document &document, const QString &element,
+                       const QXmlAttributes &attributes);
 
     std::optional<ItemTitles> titles;
 };

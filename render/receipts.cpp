@@ -9,14 +9,12 @@ using namespace Qt::Literals::StringLiterals;
 
 void PrinterDriver::printFullOrderReceipt(const QString &element, const QXmlAttributes &attributes)
 {
-    if (!printSections(element, attributes))
-        printElement(fullReceiptElements, *this, element, attributes);
+    printDocument(vocabulary::fullReceipt, element, attributes);
 }
 
 void PrinterDriver::printAbstractOrderReceipt(const QString &element, const QXmlAttributes &attributes)
 {
-    if (!printSections(element, attributes))
-        printElement(abstractReceiptElements, *this, element, attributes);
+    printDocument(vocabulary::abstractReceipt, element, attributes);
 }
 
 void printReceiptItem(PrinterDriver &driver, const QXmlAttributes &attributes)
@@ -40,14 +38,13 @@ void printReceiptSummaryRow(PrinterDriver &driver, const QXmlAttributes &attribu
 void printReceiptTotal(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
     driver.println(QString());
-    driver.println(driver.descriptionRow(QString(), QObject::tr("TOTAL"), QString(),
-                                         attributes.value("price"_L1), u'.', u"qdpt"_s));
+    printLines(driver, vocabulary::totalAttributes, attributes);
 }
 
 void printReceiptNotPaid(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
     driver.println(QString());
-    driver.println(QObject::tr("    Amount not paid: ") + attributes.value("price"_L1));
+    printLines(driver, vocabulary::notPaidAttributes, attributes);
 }
 
 void printReceiptSummaryNotPaid(PrinterDriver &driver, const QXmlAttributes &attributes)

@@ -11,7 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int valueWidth = 15; ///< what a dotted line leaves free for its value
 constexpr int rateWidth = 6;
 constexpr int amountWidth = 10;
 constexpr int serialWidth = 10;
@@ -38,26 +37,6 @@ void printTitle(PrinterDriver &driver, const QString &title)
     driver.println(QString());
 }
 
-void printDottedLabel(PrinterDriver &driver, const QString &label)
-{
-    const int width = qMax<qint64>(0, qint64(driver.settings().paperWidth) - valueWidth);
-    driver.print(0, columns::leftJustified(label, width, u'.'));
-}
-
-void printDottedLine(PrinterDriver &driver, const QString &label, const QString &value)
-{
-    printDottedLabel(driver, label);
-    driver.println(value);
-}
-
-void printSerialRange(PrinterDriver &driver, const QXmlAttributes &attributes)
-{
-    printDottedLabel(driver, QObject::tr("Serials"));
-    driver.print(0, attributes.value("firstserial"_L1));
-    driver.print(0, u" - "_s);
-    driver.println(attributes.value("lastserial"_L1));
-}
-
 /// The text at a position, told by no name; "" behind the last.
 QString valueAt(const QXmlAttributes &attributes, int index)
 {
@@ -76,8 +55,7 @@ void printCancelledRow(PrinterDriver &driver, const QString &serial, const QStri
 
 void PrinterDriver::printReport(const QString &element, const QXmlAttributes &attributes)
 {
-    if (!printSections(element, attributes))
-        printElement(reportElements, *this, element, attributes);
+    printDocument(vocabulary::report, element, attributes);
 }
 
 void printReportPeriod(PrinterDriver &driver, const QXmlAttributes &attributes)
@@ -88,30 +66,19 @@ void printReportPeriod(PrinterDriver &driver, const QXmlAttributes &attributes)
     driver.println(QObject::tr("SUMMARIES"));
     driver.println(QString()); // centred, unlike the one below every other title
     driver.setCharSize();
-    driver.print(0, QObject::tr("BeginDate: "));
-    driver.println(attributes.value("begindate"_L1));
-    driver.print(0, QObject::tr("EndDate: "));
-    driver.println(attributes.value("enddate"_L1));
+    printLines(driver, vocabulary::reportPeriodAttributes, attributes);
 }
 
 void printPrefiscalsSummary(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
     printTitle(driver, QObject::tr("PREFISCAL SUMMARY"));
-    printDottedLine(driver, QObject::tr("Number"), attributes.value("number"_L1));
-    printDottedLine(driver, QObject::tr("TOTAL"), attributes.value("total"_L1));
+    printLines(driver, vocabulary::prefiscalsSummaryAttributes, attributes);
 }
 
 void printReceiptsSummary(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
     printTitle(driver, QObject::tr("RECEIPTS SUMMARY"));
-    printDottedLine(driver, QObject::tr("Number"), attributes.value("number"_L1));
-    printSerialRange(driver, attributes);
-    driver.println(QObject::tr("Amount not paid: ") + attributes.value("notPaid"_L1));
-    driver.println(QObject::tr("Cash: ") + attributes.value("cash"_L1));
-    driver.println(QObject::tr("Credit Card: ") + attributes.value("creditCard"_L1));
-    driver.println(QObject::tr("Bancomat: ") + attributes.value("bancomat"_L1));
-    driver.println(QObject::tr("Other: ") + attributes.value("other"_L1));
-    printDottedLine(driver, QObject::tr("TOTAL"), attributes.value("total"_L1));
+    printLines(driver, vocabulary::receiptsSummaryAttributes, attributes);
     driver.println(QString());
     driver.printSeparatorLine();
     driver.println(right(QObject::tr("TAXRATE"), rateWidth) + u' ' +
@@ -134,18 +101,13 @@ void printInvoicesSummary(PrinterDriver &driver, const QXmlAttributes &attribute
     driver.printSeparatorLine();
     driver.println(QString());
     printTitle(driver, QObject::tr("INVOICES SUMMARY"));
-    printDottedLine(driver, QObject::tr("Number"), attributes.value("number"_L1));
-    printSerialRange(driver, attributes);
-    printDottedLine(driver, QObject::tr("Taxable"), attributes.value("taxable"_L1));
-    printDottedLine(driver, QObject::tr("Tax"), attributes.value("tax"_L1));
-    printDottedLine(driver, QObject::tr("TOTAL"), attributes.value("total"_L1));
+    printLines(driver, vocabulary::invoicesSummaryAttributes, attributes);
 }
 
 void printCancelledSummary(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
     printTitle(driver, QObject::tr("CANCELLED DOC SUMMARY"));
-    printDottedLine(driver, QObject::tr("Number"), attributes.value("number"_L1));
-    printDottedLine(driver, QObject::tr("TOTAL"), attributes.value("totals"_L1));
+    printLines(driver, vocabulary::cancelledSummaryAttributes, attributes);
     driver.setBold();
     driver.println(QString());
     printCancelledRow(driver, QObject::tr("SERIAL"), QObject::tr("TOTAL"), QObject::tr("TAXRATE"));

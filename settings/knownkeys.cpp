@@ -1,61 +1,52 @@
 #include "knownkeys.h"
 
+#include "companyprinterdriver.h"
+#include "printmethods.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace knownkeys {
+
+using vocabulary::DocumentKind;
+using vocabulary::DocumentSetting;
+using vocabulary::ValueKind;
 
 namespace {
 
-constexpr int printerWidth = 32;
+constexpr unsigned int printerWidth = CompanyPrinterDriver::lineWidth;
 constexpr int largestSensibleCount = 999;
 
-const QStringList levels{u"DEBUG"_s, u"INFO"_s, u"WARNING"_s, u"ERROR"_s, u"FATAL"_s};
-const QStringList logTypes{u"APPEND"_s, u"OVERWRITE"_s};
-
-QStringList methodsOf(const DocumentBlock &block, const DocumentSetting &setting)
+QStringList methodsOf(const DocumentKind &kind, const DocumentSetting &setting)
 {
     QStringList names;
-    for (const PrintMethod &method : printMethods) {
-        if (method.block == block.name && (method.uses & setting.use))
+    for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
+        if (method.kind == kind.name && consults(method.document, setting))
             names += method.name;
     }
     return names;
 }
 
-/// Whether anything ever asks for the setting in this block.
-bool isRead(const DocumentBlock &block, const DocumentSetting &setting)
+Key documentKey(const DocumentKind &kind, const DocumentSetting &setting)
 {
-    switch (setting.loading) {
-    case Loading::Always:
-        return true;
-    case Loading::OnUse:
-        return !methodsOf(block, setting).isEmpty();
-    case Loading::Copying:
-        return block.copyNumber;
-    }
-    return false;
-}
-
-Key documentKey(const DocumentBlock &block, const DocumentSetting &setting)
-{
-    const QString name = "palvestrin."_L1 + block.name + u'.' + setting.name;
-    const QString readBy = setting.loading == Loading::Copying ? u"copy number"_s : u"printing"_s;
-    return {name, setting.kind, setting.meaning, setting.whenMissing, methodsOf(block, setting), readBy};
+    const QString readBy = setting.name == vocabulary::copyNumberSetting ? u"copy number"_s : u"printing"_s;
+    return {kind.path() + setting.name, setting.kind, setting.meaning, whenMissing(setting.kind),
+            methodsOf(kind, setting),   readBy};
 }
 
 std::vector<Key> expandedTables()
 {
     std::vector<Key> keys;
-    keys.reserve(applicationKeys.size() + documentBlocks.size() * documentSettings.size());
-    for (const ApplicationKey &key : applicationKeys)
+    for (const vocabulary::ApplicationKey &key : vocabulary::applicationKeys)
         keys.push_back({key.name, key.kind, key.meaning, key.whenMissing, {}, key.readBy});
-    for (const DocumentBlock &block : documentBlocks) {
-        for (const DocumentSetting &setting : documentSettings) {
-            if (isRead(block, setting))
-                keys.push_back(documentKey(block, setting));
+    for (const DocumentKind &kind : vocabulary::documentKinds) {
+        for (const DocumentSetting &setting : vocabulary::documentSettings) {
+            if (kind.hasCopyNumber || setting.name != vocabulary::copyNumberSetting)
+                keys.push_back(documentKey(kind, setting));
         }
     }
     return keys;
@@ -78,6 +69,19 @@ qsizetype editDistance(QStringView from, QStringView to, qsizetype limit)
         }
     }
     return std::min(row.back(), limit);
+}
+
+bool isOneOf(const QString &value, ValueKind kind)
+{
+    return std::ranges::find(vocabulary::wordsOf(kind), value) != vocabulary::wordsOf(kind).end();
+}
+
+QString words(ValueKind kind, const QString &separator)
+{
+    QStringList list;
+    for (const QLatin1StringView word : vocabulary::wordsOf(kind))
+        list += word;
+    return list.join(separator);
 }
 
 bool isSensibleCount(const QString &value)
@@ -128,13 +132,13 @@ QString effectiveValue(const Key &key, const QString &value)
     case ValueKind::Count:
         return QString::number(value.toInt());
     case ValueKind::Width:
-        return QString::number(value.toInt() == 0 ? printerWidth : value.toInt());
+        return QString::number(value.toInt() == 0 ? int(printerWidth) : value.toInt());
     case ValueKind::Flag:
-        return value == "true"_L1 ? u"true"_s : u"false"_s;
+        return isOneOf(value, key.kind) ? value : u"false"_s;
     case ValueKind::Level:
-        return levels.contains(value.toUpper()) ? value.toUpper() : u"DEBUG"_s;
+        return isOneOf(value.toUpper(), key.kind) ? value.toUpper() : QString(vocabulary::logLevels[0]);
     case ValueKind::LogType:
-        return logTypes.contains(value.toUpper()) ? value.toUpper() : QString();
+        return isOneOf(value.toUpper(), key.kind) ? value.toUpper() : QString();
     }
     return value;
 }
@@ -149,21 +153,34 @@ QString objection(const Key &key, const QString &value)
         return isSensibleCount(value) ? QString()
                                       : u"give a whole number from 0 to %1"_s.arg(largestSensibleCount);
     case ValueKind::Flag:
-        return value == "true"_L1 || value == "false"_L1 ? QString()
-                                                         : u"give true or false, in small letters"_s;
+        return isOneOf(value, key.kind) ? QString() : u"give true or false, in small letters"_s;
     case ValueKind::Level:
-        return levels.contains(value.toUpper()) ? QString() : "give one of "_L1 + levels.join(", "_L1);
+        return isOneOf(value.toUpper(), key.kind) ? QString() : "give one of "_L1 + words(key.kind, u", "_s);
     case ValueKind::LogType:
-        return logTypes.contains(value.toUpper()) ? QString() : u"give APPEND or OVERWRITE"_s;
+        return isOneOf(value.toUpper(), key.kind) ? QString() : "give "_L1 + words(key.kind, u" or "_s);
     }
     return {};
+}
+
+QString whenMissing(ValueKind kind)
+{
+    switch (kind) {
+    case ValueKind::Count:
+        return u"0"_s;
+    case ValueKind::Width:
+        return u"%1, the printer's own width; the same for 0"_s.arg(printerWidth);
+    case ValueKind::Flag:
+        return u"off"_s;
+    default:
+        return u"\"\""_s;
+    }
 }
 
 QStringList methodsUsing(const DocumentSetting &setting)
 {
     QStringList names;
-    for (const PrintMethod &method : printMethods) {
-        if (method.uses & setting.use)
+    for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
+        if (consults(method.document, setting))
             names += method.name;
     }
     return names;

@@ -2,6 +2,7 @@
 
 #include "keyedit.h"
 #include "knownkeys.h"
+#include "printmethods.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -76,7 +77,7 @@ QString code(QLatin1StringView text)
 QString applicationKeysTable()
 {
     QString table = tableHead({u"Key"_s, u"Meaning"_s, u"When missing"_s, u"Read by"_s});
-    for (const knownkeys::ApplicationKey &key : knownkeys::applicationKeys)
+    for (const vocabulary::ApplicationKey &key : vocabulary::applicationKeys)
         table += tableRow({code(key.name), key.meaning, key.whenMissing, key.readBy});
     return table;
 }
@@ -84,13 +85,13 @@ QString applicationKeysTable()
 QString documentBlocksTable()
 {
     QString table = tableHead({u"Block"_s, u"Kind"_s, u"Print methods"_s});
-    for (const knownkeys::DocumentBlock &block : knownkeys::documentBlocks) {
+    for (const vocabulary::DocumentKind &kind : vocabulary::documentKinds) {
         QStringList methods;
-        for (const knownkeys::PrintMethod &method : knownkeys::printMethods) {
-            if (method.block == block.name)
+        for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
+            if (method.kind == kind.name)
                 methods += code(method.name);
         }
-        table += tableRow({code(block.name), block.kind, methods.join(", "_L1)});
+        table += tableRow({code(kind.block), kind.name, methods.join(", "_L1)});
     }
     return table;
 }
@@ -98,9 +99,9 @@ QString documentBlocksTable()
 QString documentSettingsTable()
 {
     QString table = tableHead({u"Setting"_s, u"Meaning"_s, u"When missing"_s, u"Consulted by"_s});
-    for (const knownkeys::DocumentSetting &setting : knownkeys::documentSettings) {
+    for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings) {
         const QStringList methods = knownkeys::methodsUsing(setting);
-        table += tableRow({code(setting.name), setting.meaning, setting.whenMissing,
+        table += tableRow({code(setting.name), setting.meaning, knownkeys::whenMissing(setting.kind),
                            methods.isEmpty() ? u"no print method"_s : u'`' + methods.join("`, `"_L1) + u'`'});
     }
     return table;

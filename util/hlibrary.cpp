@@ -1,12 +1,13 @@
 #include "hlibrary.h"
 
+#include "applicationkeys.h"
 #include "databasemanager.h"
+#include "documentkinds.h"
 #include "pvconfiguration.h"
 
 #include <QDir>
 #include <QFile>
 
-#include <array>
 #include <cstdlib>
 #include <ctime>
 #include <iostream>
@@ -17,29 +18,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct DocumentKind
+/// What stands in front of the settings of a kind of document, given in lower case.
+QString documentPath(const QString &kind)
 {
-    QLatin1StringView kind;
-    QLatin1StringView section;
-};
-
-/// The list of sold items is missing on purpose: it has no number of copies of its own.
-constexpr std::array documentKinds = {
-    DocumentKind{"order"_L1, "doc"_L1},          DocumentKind{"prefiscal"_L1, "prefiscaldoc"_L1},
-    DocumentKind{"fiscal"_L1, "fiscaldoc"_L1},   DocumentKind{"receipt"_L1, "receiptdoc"_L1},
-    DocumentKind{"invoice"_L1, "invoicedoc"_L1}, DocumentKind{"delivery"_L1, "deliverydoc"_L1},
-    DocumentKind{"report"_L1, "reportdoc"_L1},
-};
-
-/// The configuration section of a kind of document, given in lower case.
-QLatin1StringView documentSection(const QString &kind)
-{
-    for (const DocumentKind &known : documentKinds) {
-        if (kind == known.kind)
-            return known.section;
-    }
+    const vocabulary::DocumentKind *known = vocabulary::findDocumentKind(kind);
+    if (known && known->hasCopyNumber)
+        return known->path();
     std::cout << "Error into HLibrary::copyNumber::documentPath: " << qPrintable(kind) << std::endl;
-    return "prefiscaldoc"_L1;
+    return vocabulary::fallbackKind.path();
 }
 
 QString setting(const QString &key)
@@ -108,7 +94,7 @@ QString HLibrary::pg_restore()
 
 QString HLibrary::pathWithBinaryFile(const QString &name)
 {
-    return setting(u"palvestrin.bin.path"_s) + u'/' + name;
+    return setting(applicationkey::binPath) + u'/' + name;
 }
 
 QString HLibrary::getCoreFile()
@@ -136,22 +122,22 @@ unsigned int HLibrary::hsleep(unsigned int seconds)
 
 QString HLibrary::dbname()
 {
-    return setting(u"palvestrin.db.dbname"_s);
+    return setting(applicationkey::dbName);
 }
 
 QString HLibrary::username()
 {
-    return setting(u"palvestrin.db.username"_s);
+    return setting(applicationkey::dbUserName);
 }
 
 QString HLibrary::password()
 {
-    return setting(u"palvestrin.db.password"_s);
+    return setting(applicationkey::dbPassword);
 }
 
 QString HLibrary::hostname()
 {
-    return setting(u"palvestrin.db.hostname"_s);
+    return setting(applicationkey::dbHostName);
 }
 
 QSqlDatabase *HLibrary::newDBConnection(const QString &connectionName)
@@ -162,7 +148,7 @@ QSqlDatabase *HLibrary::newDBConnection(const QString &connectionName)
 
 QString HLibrary::copyNumber(const QString &kind)
 {
-    return setting("palvestrin."_L1 + documentSection(kind.toLower()) + ".copyNumber"_L1);
+    return setting(documentPath(kind.toLower()) + vocabulary::copyNumberSetting);
 }
 
 QString HLibrary::truncateDecimal(double value)

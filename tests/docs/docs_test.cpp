@@ -1,6 +1,5 @@
 // The tables of the documents against the tables of the code.
 
-#include "knownkeys.h"
 #include "printmethods.h"
 #include "program.h"
 #include "temporaryhome.h"
@@ -56,11 +55,11 @@ QStringList firstColumn(const QList<QStringList> &table)
     return column;
 }
 
-QStringList names(std::span<const ElementAction> actions)
+QStringList names(std::span<const vocabulary::Element> elements)
 {
     QStringList list;
-    for (const ElementAction &action : actions)
-        list += action.element;
+    for (const vocabulary::Element &element : elements)
+        list += element.name;
     return list;
 }
 
@@ -105,26 +104,25 @@ private Q_SLOTS:
     void methods()
     {
         QList<QStringList> expected;
-        for (const PrintMethod &method : printMethods) {
-            for (const DocumentKind &kind : documentKinds) {
-                if (kind.name == method.kind)
-                    expected += QStringList{method.name, method.kind, kind.path};
-            }
+        for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
+            const QString path = vocabulary::findDocumentKind(QString(method.kind))->path();
+            expected += QStringList{method.name, method.title, method.kind, path};
         }
         QCOMPARE(tableOf(sectionOf(jobFormat, u"## Print methods"_s)), expected);
     }
 
     void sections()
     {
-        QCOMPARE(firstColumn(tableOf(sectionOf(jobFormat, u"## Sections"_s))), names(sectionElements));
+        QCOMPARE(firstColumn(tableOf(sectionOf(jobFormat, u"## Sections"_s))),
+                 names(vocabulary::sectionElements));
     }
 
     void elements_data()
     {
         QTest::addColumn<QStringList>("expected");
-        for (const PrintMethod &method : printMethods) {
-            if (!method.elements.empty())
-                QTest::addRow("%s", method.name.data()) << names(method.elements);
+        for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
+            if (!method.document.elements.empty())
+                QTest::addRow("%s", method.name.data()) << names(method.document.elements);
         }
     }
     void elements()
@@ -170,49 +168,16 @@ private Q_SLOTS:
 
     void everyMethodHasASample()
     {
-        for (const PrintMethod &method : printMethods) {
+        for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
             const QString section = sectionOf(jobFormat, u"### `"_s + method.name + u'`');
-            const bool prints = !method.elements.empty();
+            const bool prints = !method.document.elements.empty();
             QVERIFY2(section.contains("```xml\n"_L1) == prints, method.name.data());
         }
     }
 
-    /// The renderer's settings, methods and kinds are those that `palvestrin config` and configuration.md
-    /// know.
-    void everySettingIsKnown()
-    {
-        QStringList renderer;
-        for (const IntegerSetting &setting : integerSettings)
-            renderer += setting.key;
-        for (const FlagSetting &setting : flagSettings)
-            renderer += setting.key;
-        renderer += {u"style"_s, u"topMargin"_s, u"copyNumber"_s};
-        QStringList known;
-        for (const knownkeys::DocumentSetting &setting : knownkeys::documentSettings)
-            known += setting.name;
-        renderer.sort();
-        known.sort();
-        QCOMPARE(known, renderer);
-    }
-
-    void everyMethodIsKnown()
-    {
-        QStringList renderer;
-        for (const PrintMethod &method : printMethods) {
-            for (const DocumentKind &kind : documentKinds) {
-                if (kind.name == method.kind)
-                    renderer += method.name + u' ' + kind.path;
-            }
-        }
-        QStringList known;
-        for (const knownkeys::PrintMethod &method : knownkeys::printMethods)
-            known += method.name + " palvestrin."_L1 + method.block + u'.';
-        QCOMPARE(known, renderer);
-    }
-
     void everyExampleIsNamedAfterItsMethod()
     {
-        for (const PrintMethod &method : printMethods) {
+        for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
             const QString job = readDocument(u"examples/jobs/"_s + method.name + ".xml"_L1);
             QVERIFY2(job.contains("<method name=\""_L1 + method.name + "\"/>"_L1), method.name.data());
         }

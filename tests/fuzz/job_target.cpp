@@ -26,12 +26,14 @@ constexpr char configurationEnd[] = "\n---\n";
 QByteArray houseConfiguration()
 {
     QByteArray text = "palvestrin: {\n";
-    for (const DocumentKind &kind : documentKinds) {
-        text += QByteArray(kind.path.data()).split('.').at(1) + ": {\n";
+    for (const vocabulary::DocumentKind &kind : vocabulary::documentKinds) {
+        text += kind.block.data() + QByteArray(": {\n");
         text += "quantityFieldWidth = 3; priceFieldWidth = 8; totalPriceFieldWidth = 8;\n"
                 "paperWidth = 40; topMargin = 2; descriptionWidth = 20;\n";
-        for (const FlagSetting &setting : flagSettings)
-            text += QByteArray(setting.key.data()) + " = true;\n";
+        for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings) {
+            if (setting.kind == vocabulary::ValueKind::Flag)
+                text += setting.name.data() + QByteArray(" = true;\n");
+        }
         text += "};\n";
     }
     return text + "};\n";
@@ -42,17 +44,15 @@ QByteArray houseConfiguration()
 bool wantsMilesOfPaper(const PVConfiguration &configuration)
 {
     constexpr int plenty = 300;
-    const auto number = [&](const DocumentKind &kind, const QString &key) {
-        return configuration.getStrValue(kind.path + key).toInt();
-    };
-    return std::any_of(std::begin(documentKinds), std::end(documentKinds), [&](const DocumentKind &kind) {
-        return number(kind, u"topMargin"_s) > plenty ||
-               std::any_of(std::begin(integerSettings), std::end(integerSettings),
-                           [&](const IntegerSetting &setting) {
-                               const int width = number(kind, setting.key);
-                               return width > plenty && width <= columns::maxWidth;
-                           });
-    });
+    for (const vocabulary::DocumentKind &kind : vocabulary::documentKinds) {
+        for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings) {
+            const int number = configuration.getStrValue(kind.path() + setting.name).toInt();
+            const bool countsLines = setting.name == "topMargin"_L1;
+            if (number > plenty && (countsLines || number <= columns::maxWidth))
+                return true;
+        }
+    }
+    return false;
 }
 
 /// The printer with a configuration of its own, which also notes what decides the form of its output.

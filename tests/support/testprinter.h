@@ -17,13 +17,16 @@ public:
 
     using PrinterDriver::currentMethod;
     using PrinterDriver::docPath;
-    using PrinterDriver::documentSettings;
     using PrinterDriver::justification;
     using PrinterDriver::orderCredit;
     using PrinterDriver::printerCharSize;
     using PrinterDriver::printerIpAddress;
     using PrinterDriver::printerName;
     using PrinterDriver::printerPort;
+
+    using PrinterDriver::paperWidth;
+
+    void take(const DocumentSettings &settings) { static_cast<DocumentSettings &>(*this) = settings; }
 
     /// One element of a job, as the reader delivers it.
     bool element(const QString &name, const QList<std::pair<QString, QString>> &attributes = {})

@@ -29,7 +29,7 @@ private:
                 const QString &price, const QString &total, const QString &style, QChar fill = u'.')
     {
         TestPrinter printer(home.filePath(u"output"_s));
-        printer.documentSettings = settings;
+        printer.take(settings);
         return printer.descriptionRow(quantity, description, price, total, fill, style);
     }
 
@@ -113,7 +113,7 @@ private Q_SLOTS:
     void titlesStandOnceInARun()
     {
         const QByteArray output = printed([](TestPrinter &printer) {
-            printer.documentSettings = widths(3, 8, 8, 40);
+            printer.take(widths(3, 8, 8, 40));
             printer.startSection();
             printer.printColumnsHeader(u"Qty"_s, u"Description"_s, u"Price"_s, u"Total"_s);
             printer.printColumnsHeader(u"Qty"_s, u"Description"_s, u"Price"_s, u"Total"_s);
@@ -138,7 +138,7 @@ private Q_SLOTS:
         const QByteArray output = printed([](TestPrinter &printer) {
             printer.startSection();
             for (const int width : {5, 0, -1}) {
-                printer.documentSettings.paperWidth = width;
+                printer.paperWidth = width;
                 printer.printSeparatorLine();
             }
         });

@@ -85,22 +85,22 @@ private Q_SLOTS:
     {
         TestPrinter printer(outputPath());
         printer.loadValues(u"prefiscal"_s);
-        QCOMPARE(printer.documentSettings.paperWidth, 41);
-        QCOMPARE(printer.documentSettings.quantityFieldWidth, -3);
-        QCOMPARE(printer.documentSettings.priceFieldWidth, 0);
-        QCOMPARE(printer.documentSettings.totalPriceFieldWidth, 8);
-        QVERIFY(printer.documentSettings.printHeader);
-        QVERIFY(!printer.documentSettings.printDate); // "True" is not "true"
+        QCOMPARE(printer.settings().paperWidth, 41);
+        QCOMPARE(printer.settings().quantityFieldWidth, -3);
+        QCOMPARE(printer.settings().priceFieldWidth, 0);
+        QCOMPARE(printer.settings().totalPriceFieldWidth, 8);
+        QVERIFY(printer.settings().printHeader);
+        QVERIFY(!printer.settings().printDate); // "True" is not "true"
 
         printer.loadValues(u"order"_s); // nothing of the former kind is left
-        QCOMPARE(printer.documentSettings.paperWidth, 32);
-        QCOMPARE(printer.documentSettings.paperRows, 0); // too large for a number
-        QVERIFY(!printer.documentSettings.printHeader);
+        QCOMPARE(printer.settings().paperWidth, 32);
+        QCOMPARE(printer.settings().paperRows, 0); // too large for a number
+        QVERIFY(!printer.settings().printHeader);
 
         printer.loadValues(u"receipt"_s);
-        QCOMPARE(printer.documentSettings.paperWidth, 32);
+        QCOMPARE(printer.settings().paperWidth, 32);
         printer.loadValues(u"sold"_s);
-        QCOMPARE(printer.documentSettings.paperWidth, 32);
+        QCOMPARE(printer.settings().paperWidth, 32);
     }
 
     void methods_data()
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(path), once + once);
     }
 
-    void thereAreThirteenMethods() { QCOMPARE(std::size(printMethods), 13U); }
+    void thereAreThirteenMethods() { QCOMPARE(std::size(vocabulary::printMethods), 13U); }
 
     void anUnknownMethodStops()
     {

@@ -281,7 +281,7 @@ private Q_SLOTS:
         const QJsonArray keys =
             QJsonDocument::fromJson(runOn(path, {u"list"_s, u"--json"_s, u"palvestrin.reportdoc."_s}).output)
                 .array();
-        QCOMPARE(keys.size(), qsizetype(26)); // 23 settings, the top margin, the copy number, the unknown one
+        QCOMPARE(keys.size(), qsizetype(27)); // 26 settings and the unknown one
         const auto find = [&keys](const QString &key) {
             for (const auto &value : keys) {
                 if (value[u"key"_s].toString() == key)
