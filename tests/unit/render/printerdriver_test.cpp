@@ -35,6 +35,39 @@ public:
     void printLogo() override { *output << u"[logo]\n"_s; }
 };
 
+/// A device that asks for the settings by their names, as a driver for a printer with a drawer would.
+class SettingsPrinter : public CompanyPrinterDriver
+{
+public:
+    using CompanyPrinterDriver::CompanyPrinterDriver;
+
+    QList<int> counts() const
+    {
+        return {quantityFieldWidth, priceFieldWidth, totalPriceFieldWidth, paperWidth,
+                paperRows,          topMargin,       descriptionWidth};
+    }
+    QList<bool> flags() const
+    {
+        return {DocumentSettings::printGeometry,
+                printHeader,
+                DocumentSettings::printLogo,
+                printCompany,
+                printDeliveryAddress,
+                printTelephone,
+                printDate,
+                printTime,
+                printTable,
+                printCustomer,
+                printBillingAddress,
+                printLicenseNumber,
+                printFiscalCode,
+                printCredit,
+                printWaiter,
+                printNote,
+                openCashDrawer};
+    }
+};
+
 QXmlAttributes attribute(const QString &name, const QString &value)
 {
     QXmlAttributes list;
@@ -56,13 +89,21 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        home.configure("palvestrin: {"
-                       " prefiscaldoc: { paperWidth = 41; printHeader = true; printDate = True;"
-                       "   quantityFieldWidth = -3; priceFieldWidth = abc; totalPriceFieldWidth = \" 8 \"; };"
-                       " doc: { paperWidth = 0; paperRows = 99999999999; };"
-                       " receiptdoc: { paperWidth = abc; };"
-                       " reportdoc: { openCashDrawer = true; printCredit = true; };"
-                       "};");
+        home.configure(
+            "palvestrin: {"
+            " prefiscaldoc: { paperWidth = 41; printHeader = true; printDate = True;"
+            "   quantityFieldWidth = -3; priceFieldWidth = abc; totalPriceFieldWidth = \" 8 \"; };"
+            " doc: { paperWidth = 0; paperRows = 99999999999; };"
+            " receiptdoc: { paperWidth = abc; };"
+            " reportdoc: { openCashDrawer = true; printCredit = true; };"
+            " invoicedoc: { quantityFieldWidth = 3; priceFieldWidth = 8; totalPriceFieldWidth = 9;"
+            "   paperWidth = 40; paperRows = 60; topMargin = 2; descriptionWidth = 24;"
+            "   printGeometry = true; printHeader = true; printLogo = true; printCompany = true;"
+            "   printDeliveryAddress = true; printTelephone = true; printDate = true;"
+            "   printTime = true; printTable = true; printCustomer = true;"
+            "   printBillingAddress = true; printLicenseNumber = true; printFiscalCode = true;"
+            "   printCredit = true; printWaiter = true; printNote = true; openCashDrawer = true; };"
+            "};");
     }
 
     void documentPaths()
@@ -101,6 +142,18 @@ private Q_SLOTS:
         QCOMPARE(printer.settings().paperWidth, 32);
         printer.loadValues(u"sold"_s);
         QCOMPARE(printer.settings().paperWidth, 32);
+    }
+
+    void aDeviceFindsTheSettingsByTheirNames()
+    {
+        SettingsPrinter printer(outputPath());
+        printer.loadValues(u"invoice"_s);
+        QCOMPARE(printer.counts(), (QList<int>{3, 8, 9, 40, 60, 2, 24}));
+        QCOMPARE(printer.flags(), QList<bool>(17, true));
+        printer.loadValues(u"delivery"_s);
+        QCOMPARE(printer.counts(), (QList<int>{0, 0, 0, 32, 0, 0, 0}));
+        QCOMPARE(printer.flags(), QList<bool>(17, false));
+        QCOMPARE(CompanyPrinterDriver::lineWidth, 32U);
     }
 
     void methods_data()

@@ -1,7 +1,8 @@
 #include "configfile.h"
 #include "exitcode.h"
-#include "knownkeys.h"
+#include "keyedit.h"
 #include "listing.h"
+#include "program.h"
 #include "scratchfolder.h"
 
 #include <QFile>
@@ -97,6 +98,24 @@ private Q_SLOTS:
         ConfigFile file(folder.write(u"example.conf"_s, example));
         QCOMPARE(file.config().lookup(u"palvestrin.logger.level"_s), u"INFO"_s);
         QCOMPARE(file.written(form::text), example);
+    }
+
+    void theExampleConfigurationHoldsNothingThatSetRefuses()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(
+            u"example.conf"_s, textOf(u"examples/home/.palvestrin/conf/palvestrin.conf"_s).toLatin1());
+        ConfigFile example(path);
+        const auto pairs = storedPairs(example.config());
+        QVERIFY(pairs.size() > 100);
+        for (const StoredPair &pair : pairs) {
+            const ProgramRun run =
+                runProgram(QStringLiteral(PALVESTRIN_PROGRAM),
+                           {u"config"_s, u"set"_s, u"--file"_s, path, pair.key, pair.value},
+                           bareEnvironment(folder.path()));
+            QCOMPARE(run.standardError, QByteArray());
+            QCOMPARE(run.exitStatus, 0);
+        }
     }
 
     void theManualListsEveryExitCode()
