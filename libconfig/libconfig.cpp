@@ -9,7 +9,8 @@
 
 #include <iostream>
 #include <optional>
-#include <string>
+#include <sstream>
+#include <stack>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -17,24 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace libconfig {
 
 namespace {
-
-/// The text of one name, key or value: bytes up to the loader's limit.
-class TextBuffer
-{
-public:
-    void add(char c)
-    {
-        if (bytes.size() < Config::maxTextLength)
-            bytes.push_back(c);
-    }
-    void clear() { bytes.clear(); }
-    /// The text without surrounding white space, until the next change. Stripped as bytes: QString::trimmed()
-    /// would take the no-break space (0xA0) too, which is an ordinary character here.
-    QByteArrayView stripped() const { return QByteArrayView(bytes).trimmed(); }
-
-private:
-    std::string bytes;
-};
 
 /// The attribute names of every element in document order; nothing when the file is no XML, or nests its
 /// elements deeper than the tree can be freed again: it recurses.
@@ -47,7 +30,7 @@ std::optional<std::vector<QStringList>> attributeNames(const QByteArray &xml)
     while (!reader.atEnd()) {
         reader.readNext();
         if (reader.isStartElement()) {
-            if (++depth > Config::maxDepth)
+            if (++depth > maxDepth)
                 return std::nullopt;
             QStringList &ofElement = names.emplace_back();
             for (const QXmlStreamAttribute &attribute : reader.attributes())
@@ -73,6 +56,72 @@ NamesIterator rememberOrder(const QDomNode &node, NamesIterator next, NamesItera
     return next;
 }
 
+QDomElement newElement(QDomDocument &document, const QString &name)
+{
+    // Made under another name first: the toolkit makes no element for an empty name, but a nameless block is
+    // a block all the same, and hides the blocks behind it when it is the first.
+    QDomElement element = document.createElement(u"block"_s);
+    element.setTagName(name);
+    return element;
+}
+
+/// Makes elements of the blocks that it hears of, and attributes of the pairs.
+class TreeBuilder : public TokenListener
+{
+public:
+    /// What is heard goes into a new element `name`. That joins `parent` with its first item, so an empty
+    /// block leaves no trace.
+    TreeBuilder(QDomDocument &of, const QString &name, const QDomNode &parent) : document(of)
+    {
+        blocks.emplace(newElement(document, name), parent);
+    }
+
+    void token(const Token &token) override
+    {
+        switch (token.kind) {
+        case TokenKind::BlockName:
+            openBlock(token.name());
+            break;
+        case TokenKind::Key:
+            key = token.name();
+            break;
+        case TokenKind::Value:
+            blocks.top().attributes.set(key, token.value());
+            join();
+            break;
+        case TokenKind::CloseBrace:
+            blocks.pop();
+            break;
+        default: // delimiters, and what belongs to nothing
+            break;
+        }
+    }
+
+private:
+    struct Block
+    {
+        Block(const QDomElement &of, const QDomNode &above) : element(of), parent(above), attributes(of) {}
+        QDomElement element;
+        QDomNode parent;
+        OrderedAttributes attributes;
+    };
+
+    void join()
+    {
+        if (blocks.top().element.parentNode().isNull())
+            blocks.top().parent.appendChild(blocks.top().element);
+    }
+    void openBlock(const QString &name)
+    {
+        join();
+        blocks.emplace(newElement(document, name), blocks.top().element);
+    }
+
+    QDomDocument &document;
+    std::stack<Block> blocks;
+    QString key;
+};
+
 } // namespace
 
 Config::Config() = default;
@@ -86,9 +135,7 @@ Config::~Config() = default;
 
 void Config::constructor(const QString &name, const QString &type)
 {
-    fileName = name;
-    fileType = type;
-    document = std::make_unique<QDomDocument>();
+    begin(name, type);
     if (fileType == "cfg"_L1)
         loadFile();
     else if (fileType == "xml"_L1)
@@ -98,6 +145,23 @@ void Config::constructor(const QString &name, const QString &type)
 void Config::readFile(const QString &name, const QString &type)
 {
     constructor(name, type);
+}
+
+void Config::readContent(const QByteArray &content, const QString &name, const QString &type)
+{
+    begin(name, type);
+    std::istringstream stream(content.toStdString());
+    if (fileType == "cfg"_L1)
+        readText(stream);
+    else if (fileType == "xml"_L1)
+        readXml(content);
+}
+
+void Config::begin(const QString &name, const QString &type)
+{
+    fileName = name;
+    fileType = type;
+    document = std::make_unique<QDomDocument>();
 }
 
 bool Config::openFile()
@@ -122,30 +186,10 @@ void Config::closeFile()
     file.clear();
 }
 
-bool Config::get(char &c)
-{
-    // From the stream's buffer: the stream's own `get` takes several times as long for each byte.
-    using Traits = std::ifstream::traits_type;
-    Traits::int_type next = Traits::eof();
-    try {
-        if (file.good())
-            next = file.rdbuf()->sbumpc();
-    } catch (const std::ios_base::failure &) {
-        // A file that opens and cannot be read, such as a folder: it ends here.
-    }
-    if (next == Traits::eof()) {
-        file.setstate(std::ios_base::eofbit | std::ios_base::failbit);
-        return false;
-    }
-    c = Traits::to_char_type(next);
-    return true;
-}
-
 bool Config::jump(char c)
 {
-    char read = 0;
-    while (get(read)) {
-        if (read == c)
+    for (int byte = nextByte(file); byte != noByte; byte = nextByte(file)) {
+        if (char(byte) == c)
             return true;
     }
     return false;
@@ -153,84 +197,39 @@ bool Config::jump(char c)
 
 void Config::loadFile()
 {
-    if (!openFile())
-        return;
-    depth = 0;
-    const QDomElement root = newElement(fileName);
-    if (readItems(root, *document) == End::File)
+    if (openFile() && readText(file) == Tokenizer::End::File)
         closeFile();
 }
 
 void Config::loadFile(const QString &name, QDomNode parent)
 {
-    if (depth == maxDepth) {
-        file.setstate(std::ios::eofbit | std::ios::failbit);
-        return;
-    }
-    ++depth;
-    readItems(newElement(name), parent);
-    --depth;
+    TreeBuilder builder(*document, name, parent);
+    Tokenizer(file, builder).readBlock();
 }
 
-Config::End Config::readItems(QDomElement element, QDomNode parent)
+Tokenizer::End Config::readText(std::istream &stream)
 {
-    TextBuffer text;
-    OrderedAttributes attributes(element);
-    char c = 0;
-    while (get(c)) {
-        switch (c) {
-        case ':': // a block; what stands between the name and its brace is ignored
-            jump('{');
-            parent.appendChild(element);
-            loadFile(QString::fromLatin1(text.stripped()), element);
-            text.clear();
-            break;
-        case '=':
-            attributes.set(QString::fromLatin1(text.stripped()), readValue());
-            parent.appendChild(element);
-            text.clear();
-            break;
-        case '}': // a missing ';' swallows everything up to the next one, wherever it is
-            jump(';');
-            return End::Brace;
-        default:
-            text.add(c);
-        }
-    }
-    return End::File;
-}
-
-QString Config::readValue()
-{
-    TextBuffer text;
-    char c = 0;
-    while (get(c) && c != ';')
-        text.add(c);
-    // Quotes are deleted wherever they stand, and after the stripping: blanks inside the quotes stay.
-    return QString::fromLatin1(text.stripped()).remove(u'"');
-}
-
-QDomElement Config::newElement(const QString &name)
-{
-    // Made under another name first: the toolkit makes no element for an empty name, but a nameless block is
-    // a block all the same, and hides the blocks behind it when it is the first.
-    QDomElement element = document->createElement(u"block"_s);
-    element.setTagName(name);
-    return element;
+    TreeBuilder builder(*document, fileName, *document);
+    return Tokenizer(stream, builder).readFile();
 }
 
 void Config::loadXmlFile()
 {
-    QFile xmlFile(fileName);
-    if (!xmlFile.open(QIODevice::ReadOnly))
+    if (fileName.isEmpty()) // the toolkit would complain of it on standard error
         return;
-    const QByteArray content = xmlFile.readAll();
+    QFile xmlFile(fileName);
+    if (xmlFile.open(QIODevice::ReadOnly))
+        readXml(xmlFile.readAll());
+}
+
+void Config::readXml(const QByteArray &content)
+{
     const auto names = attributeNames(content);
     if (!names || !document->setContent(content))
         return;
     rememberOrder(*document, names->begin(), names->end());
     // Whatever stands first moves under the root, a comment or an XML declaration too: then no key is found.
-    QDomElement root = newElement(fileName);
+    QDomElement root = newElement(*document, fileName);
     root.appendChild(document->firstChild());
     document->insertBefore(root, document->firstChild());
 }
@@ -267,6 +266,20 @@ QString Config::lookup(const QDomNode &node, const QString &key) const
             return value;
     }
     return {};
+}
+
+QDomElement Config::root()
+{
+    if (!document)
+        document = std::make_unique<QDomDocument>();
+    if (document->documentElement().isNull())
+        document->appendChild(newElement(*document, fileName));
+    return document->documentElement();
+}
+
+QDomElement Config::appendBlock(QDomElement parent, const QString &name)
+{
+    return parent.appendChild(newElement(*document, name)).toElement();
 }
 
 } // namespace libconfig

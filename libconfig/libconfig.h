@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tokenizer.h"
+
 #include <QDomDocument>
 #include <QString>
 #include <QStringConverter>
@@ -7,6 +9,7 @@
 #include <fstream>
 #include <memory>
 
+class QIODevice;
 class QTextStream;
 class QTreeWidget;
 
@@ -25,11 +28,6 @@ namespace libconfig {
 class Config
 {
 public:
-    /// Names, keys and values are cut to this many bytes; what follows is read and dropped.
-    static constexpr std::size_t maxTextLength = 2047;
-    /// Blocks nested deeper than this end the reading: what was read so far stays.
-    static constexpr int maxDepth = 1000;
-
     /// No file and no tree; only `readFile` may follow.
     Config();
     Config(const QString &fileName, const QString &fileType);
@@ -42,6 +40,8 @@ public:
     /// cannot be opened or parsed is not reported; either way every look-up then yields "".
     void constructor(const QString &fileName, const QString &fileType);
     void readFile(const QString &fileName, const QString &fileType);
+    /// The same for a file in memory: `content`, as if it had been read from `fileName`. Opens no file.
+    void readContent(const QByteArray &content, const QString &fileName, const QString &fileType);
 
     /// The value at the dotted path `key`, or "" when there is none (a missing key and an empty value are the
     /// same). Only the first top-level block is searched, so a key has at least two components.
@@ -57,9 +57,10 @@ public:
     void closeFile();
     /// Reads up to and including the next `c`; false when the file ends first.
     bool jump(char c);
-    /// Reads the whole text form.
+    /// Reads the whole text form. A "}" outside all blocks ends it, and leaves the file open.
     void loadFile();
-    /// Reads the contents of the block `name`, which stands under `parent`.
+    /// Reads the contents of the block `name`, which stands under `parent`, from behind its "{" to the ";"
+    /// behind its "}".
     void loadFile(const QString &name, QDomNode parent);
     /// Reads the XML form.
     void loadXmlFile();
@@ -68,12 +69,16 @@ public:
 
     /// Writes the tree in the text form to `name`, "" meaning the file that was read: the root's pairs, then
     /// its first block. Overwrites in place, so a crash or a full disk leaves half a file. False when the
-    /// file cannot be opened, then nothing is written, or when not all of it could be written.
+    /// file cannot be opened, then nothing is written, when not all of it could be written, or when it holds
+    /// a "?" in the place of a character outside Latin-1, which the text form has no byte for.
     bool buildConfigFile(const QString &name);
+    /// The same into `device`, which is open for writing.
+    bool buildConfigFile(QIODevice &device);
     /// One block, at the indentation that this writer has reached. Nodes that are no elements write nothing.
     void buildConfigFile(const QDomNode &node, QTextStream &stream);
-    /// The same in the XML form.
+    /// The same in the XML form, which is UTF-8.
     bool buildConfigXmlFile(const QString &name);
+    bool buildConfigXmlFile(QIODevice &device);
     void buildConfigXmlFile(const QDomNode &node, QTextStream &stream);
 
     /// Prints the tree on standard output, in UTF-8.
@@ -101,22 +106,17 @@ public:
 
 private:
     using BlockWriter = void (Config::*)(const QDomNode &, QTextStream &);
-    enum class End { Brace, File };
 
-    /// The next byte of the file; false when there is none.
-    bool get(char &c);
-    /// Reads items into `element` until its closing brace or the end of the file. The element joins `parent`
-    /// with its first item, so an empty block leaves no trace.
-    End readItems(QDomElement element, QDomNode parent);
-    QString readValue();
-    QDomElement newElement(const QString &name);
+    void begin(const QString &name, const QString &type);
+    Tokenizer::End readText(std::istream &stream);
+    void readXml(const QByteArray &content);
+    bool write(QIODevice &device, QStringConverter::Encoding encoding, BlockWriter writeBlock);
     bool writeFile(const QString &name, QStringConverter::Encoding encoding, BlockWriter writeBlock);
 
     QString fileName;
     QString fileType;
     std::ifstream file;
     std::unique_ptr<QDomDocument> document;
-    int depth = 0; ///< of the block being read, counted in blocks
 };
 
 } // namespace libconfig

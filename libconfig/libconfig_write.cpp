@@ -60,26 +60,39 @@ std::string utf8(const QString &text)
 
 } // namespace
 
-bool Config::writeFile(const QString &name, QStringConverter::Encoding encoding, BlockWriter writeBlock)
+bool Config::write(QIODevice &device, QStringConverter::Encoding encoding, BlockWriter writeBlock)
 {
-    QFile target(name.isEmpty() ? fileName : name);
-    if (!target.open(QIODevice::WriteOnly))
-        return false;
-    QTextStream stream(&target);
-    stream.setEncoding(encoding);
+    QString text;
+    QTextStream stream(&text);
     if (document) {
         const QDomElement root = document->documentElement();
         writeRootPairs(stream, root);
         (this->*writeBlock)(root.firstChild(), stream);
     }
-    stream.flush();
+    QStringEncoder encoder(encoding);
+    const QByteArray bytes = encoder(text);
+    return device.write(bytes) == bytes.size() && !encoder.hasError();
+}
+
+bool Config::writeFile(const QString &name, QStringConverter::Encoding encoding, BlockWriter writeBlock)
+{
+    QFile target(name.isEmpty() ? fileName : name);
+    // Without a name the toolkit would complain on standard error.
+    if (target.fileName().isEmpty() || !target.open(QIODevice::WriteOnly))
+        return false;
+    const bool isFaithful = write(target, encoding, writeBlock);
     target.close();
-    return stream.status() == QTextStream::Ok && target.error() == QFileDevice::NoError;
+    return isFaithful && target.error() == QFileDevice::NoError;
 }
 
 bool Config::buildConfigFile(const QString &name)
 {
     return writeFile(name, QStringConverter::Latin1, &Config::buildConfigFile);
+}
+
+bool Config::buildConfigFile(QIODevice &device)
+{
+    return write(device, QStringConverter::Latin1, &Config::buildConfigFile);
 }
 
 void Config::buildConfigFile(const QDomNode &node, QTextStream &stream)
@@ -105,6 +118,11 @@ bool Config::buildConfigXmlFile(const QString &name)
     // The root's pairs keep the text form's syntax in this file too. No XML reader takes them, yet they stay:
     // tools that read the lines in front of the first element rely on it.
     return writeFile(name, QStringConverter::Utf8, &Config::buildConfigXmlFile);
+}
+
+bool Config::buildConfigXmlFile(QIODevice &device)
+{
+    return write(device, QStringConverter::Utf8, &Config::buildConfigXmlFile);
 }
 
 void Config::buildConfigXmlFile(const QDomNode &node, QTextStream &stream)
@@ -143,20 +161,6 @@ void Config::printConfigTree(const QDomNode &node) const
     }
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
         printConfigTree(child);
-}
-
-QDomElement Config::root()
-{
-    if (!document)
-        document = std::make_unique<QDomDocument>();
-    if (document->documentElement().isNull())
-        document->appendChild(newElement(fileName));
-    return document->documentElement();
-}
-
-QDomElement Config::appendBlock(QDomElement parent, const QString &name)
-{
-    return parent.appendChild(newElement(name)).toElement();
 }
 
 } // namespace libconfig

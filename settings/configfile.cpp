@@ -185,7 +185,7 @@ void ConfigFile::checkXml()
         reader.readNext();
     const QString reason = reader.hasError()
                                ? withoutFullStop(reader.errorString())
-                               : u"elements nest deeper than %1"_s.arg(libconfig::Config::maxDepth);
+                               : u"elements nest deeper than %1"_s.arg(libconfig::maxDepth);
     throw CommandError(ExitCode::Unreadable, path, {reader.lineNumber(), reader.columnNumber() + 1},
                        u"%1; nothing is found in XML that is not well-formed"_s.arg(reason));
 }

@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// Room for a value in the reader's buffer beside the blank and the quotes that the writer puts around it.
-constexpr qsizetype maxValue = libconfig::Config::maxTextLength - 3;
+constexpr qsizetype maxValue = libconfig::maxTextLength - 3;
 
 /// All blocks at the end of `way`, the names of the blocks from the first one down.
 void collectBlocks(const QDomElement &block, const QStringList &way, std::vector<QDomElement> &found)

@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype maxText = libconfig::Config::maxTextLength;
+constexpr qsizetype maxText = libconfig::maxTextLength;
 /// The writer puts a blank and two quotes around a value, and the reader counts them.
 constexpr qsizetype maxWrittenValue = maxText - 3;
 
@@ -121,7 +121,7 @@ private:
             lose(name.at, u"block %1 without a brace"_s.arg(name.quoted()));
             return;
         }
-        if (depth == libconfig::Config::maxDepth) {
+        if (depth == libconfig::maxDepth) {
             lose(name.at, u"blocks nested deeper than %1, and everything behind"_s.arg(depth));
             place = content.size();
             return;

@@ -34,11 +34,19 @@ QStringList answers(const Config &config, const QString &key)
 /// What no file in the text form can put into a value.
 void checkTextValue(const QString &value)
 {
-    require(value.size() <= qsizetype(Config::maxTextLength), "a value is cut to its limit");
+    require(value.size() <= libconfig::maxTextLength, "a value is cut to its limit");
     require(!value.contains(u';') && !value.contains(u'"'), "a value holds neither ';' nor '\"'");
     require(std::all_of(value.begin(), value.end(), [](QChar c) { return c.unicode() <= 0xff; }),
             "a byte of the file is one character");
 }
+
+/// Puts the bytes of a file together again.
+class Collector : public libconfig::TokenListener
+{
+public:
+    void token(const libconfig::Token &token) override { bytes += token.bytes.toByteArray(); }
+    QByteArray bytes;
+};
 
 } // namespace
 
@@ -56,7 +64,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QString type = input[0] == 'x' ? u"xml"_s : u"cfg"_s;
     const qsizetype lineEnd = input.indexOf('\n');
     const QString key = QString::fromUtf8(input.sliced(1, qMax<qsizetype>(0, lineEnd - 1)));
-    const MemoryFile file(input.sliced(lineEnd + 1));
+    const QByteArray content = input.sliced(lineEnd + 1);
+    const MemoryFile file(content);
 
     Config config(file.path(), type);
     const QStringList values = answers(config, key);
@@ -64,11 +73,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         std::for_each(values.begin(), values.end(), checkTextValue);
     require(config.lookup(key.section(u'.', 0, 0)).isEmpty(), "a key has at least two components");
 
+    config.readContent(content, file.path(), type);
+    require(answers(config, key) == values, "a reading from memory finds what the file held");
     config.readFile(file.path(), type);
     require(answers(config, key) == values, "a second reading finds what the first found");
     config.readFile(file.path(), u"other"_s);
     require(answers(config, key) == QStringList(values.size(), QString()),
             "no reading finds anything from before");
     require(messages.bytes().isEmpty(), "a file that can be opened is read without a message");
+
+    Collector pieces;
+    libconfig::tokenize(content, pieces);
+    require(pieces.bytes == content, "the pieces of a file are the file");
     return 0;
 }

@@ -2,6 +2,7 @@
 #include "exampleconfig.h"
 #include "libconfig.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -183,6 +184,59 @@ private Q_SLOTS:
         const libconfig::Config config(folder.filePath(u"absent.xml"_s), u"xml"_s);
         QCOMPARE(config.lookup(u"p.k"_s), QString());
         QCOMPARE(output.bytes(), QByteArray());
+    }
+
+    /// A caller may take the steps of the reading one by one: each leaves the stream where the next begins.
+    void readsInSteps()
+    {
+        libconfig::Config config(folder.filePath(u"absent.xml"_s), u"none"_s);
+        QVERIFY(config.openFile(write("skipped {k = v; q: { m = w; }; } behind ; x { k = 2;")));
+        QVERIFY(config.jump('{'));
+        const QDomElement first = config.root();
+        config.loadFile(u"p"_s, first);
+        QCOMPARE(config.lookup(u"p.k"_s), u"v"_s);
+        QCOMPARE(config.lookup(u"p.q.m"_s), u"w"_s);
+        QVERIFY(config.jump('{'));
+        config.loadFile(u"p2"_s, first);
+        QCOMPARE(first.lastChildElement().tagName(), u"p2"_s);
+        QCOMPARE(first.lastChildElement().attribute(u"k"_s), u"2"_s);
+        QVERIFY(!config.jump(';')); // the file has ended
+        config.closeFile();
+        QVERIFY(!config.jump(';'));
+    }
+
+    void aBraceOutsideAllBlocksLeavesTheFileOpen()
+    {
+        libconfig::Config config(write("k = 1; } note ; rest: { m = 2; };"), u"cfg"_s);
+        QCOMPARE(config.root().attribute(u"k"_s), u"1"_s);
+        QVERIFY(config.jump(':'));
+        QVERIFY(config.jump('{'));
+        config.loadFile(u"rest"_s, config.root());
+        QCOMPARE(config.lookup(u"rest.m"_s), u"2"_s);
+    }
+
+    void readsFromMemory()
+    {
+        const QString path = folder.filePath(u"absent/c.conf"_s);
+        CapturedOutput output;
+        libconfig::Config config;
+        config.readContent(example, path, u"cfg"_s);
+        QCOMPARE(config.lookup(u"palvestrin.logger.level"_s), u"INFO"_s);
+        QCOMPARE(config.root().tagName(), path);
+        config.readContent("<palvestrin a='1'/>", path, u"xml"_s);
+        QCOMPARE(config.lookup(u"palvestrin.a"_s), u"1"_s);
+        QCOMPARE(config.lookup(u"palvestrin.logger.level"_s), QString());
+        config.readContent("p:{a\0b = \"\xe8\";};"_ba, path, u"cfg"_s);
+        QCOMPARE(config.lookup(u"p.a\0b"_s), u"\u00e8"_s);
+        config.readContent(example, path, u"none"_s);
+        QCOMPARE(config.lookup(u"palvestrin.logger.level"_s), QString());
+        QCOMPARE(output.bytes(), "");
+    }
+
+    void anEmptyNameIsNoFileAndNotTalkedAbout()
+    {
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
+        QCOMPARE(libconfig::Config(QString(), u"xml"_s).lookup(u"p.k"_s), QString());
     }
 
     void readingAgainReplacesTheTree()

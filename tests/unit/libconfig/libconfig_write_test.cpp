@@ -4,7 +4,9 @@
 #include "orderedattributes.h"
 #include "scratchfolder.h"
 
+#include <QBuffer>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTextStream>
 
@@ -179,9 +181,49 @@ private Q_SLOTS:
         QCOMPARE(asXml("<!-- note --><p k='v'/>", u"xml"_s), ""); // the remark stands where the block should
     }
 
-    void charactersBeyondLatin1BecomeQuestionMarks()
+    void charactersBeyondLatin1BecomeQuestionMarksAndAreTold_data()
     {
-        QCOMPARE(asText("<p k='5 \xe2\x82\xac'/>", u"xml"_s), "p: \n{\n    k = \"5 ?\";\n};\n\n");
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("in a value") << QByteArray("<p k='5 \xe2\x82\xac'/>")
+                                    << QByteArray("p: \n{\n    k = \"5 ?\";\n};\n\n");
+        QTest::newRow("in a key") << QByteArray("<p \xc4\x80='v'/>")
+                                  << QByteArray("p: \n{\n    ? = \"v\";\n};\n\n");
+        QTest::newRow("in a block's name")
+            << QByteArray("<\xc4\x80 k='v'/>") << QByteArray("?: \n{\n    k = \"v\";\n};\n\n");
+    }
+    void charactersBeyondLatin1BecomeQuestionMarksAndAreTold()
+    {
+        QFETCH(QByteArray, xml);
+        QFETCH(QByteArray, text);
+        write(xml);
+        libconfig::Config config(inPath(), u"xml"_s);
+        QVERIFY(!config.buildConfigFile(outPath()));
+        QCOMPARE(written(), text);
+        QBuffer memory;
+        QVERIFY(memory.open(QIODevice::WriteOnly));
+        QVERIFY(!config.buildConfigFile(memory));
+        QCOMPARE(memory.data(), text);
+        QVERIFY(config.buildConfigXmlFile(outPath())); // that form has room for them
+    }
+
+    void aQuestionMarkIsAQuestionMark()
+    {
+        QCOMPARE(asText("<p k='?\xc3\xbf'/>", u"xml"_s), "p: \n{\n    k = \"?\xff\";\n};\n\n");
+    }
+
+    void writesIntoMemory()
+    {
+        write("top=1;p:{k=\xe8;};");
+        libconfig::Config config(inPath(), u"cfg"_s);
+        QBuffer text;
+        QVERIFY(text.open(QIODevice::WriteOnly));
+        QVERIFY(config.buildConfigFile(text));
+        QCOMPARE(text.data(), "top = \"1\";\np: \n{\n    k = \"\xe8\";\n};\n\n");
+        QBuffer xml;
+        QVERIFY(xml.open(QIODevice::WriteOnly));
+        QVERIFY(config.buildConfigXmlFile(xml));
+        QCOMPARE(xml.data(), "top = \"1\";\n\n<p\n    k = \"\xc3\xa8\">\n</p>\n");
     }
 
     void emptyBlocksAreWrittenButNotReadAgain()
@@ -308,7 +350,18 @@ private Q_SLOTS:
         const QDomElement block = config.appendBlock(config.root(), u"p"_s);
         libconfig::OrderedAttributes(block).set(u"k"_s, u"v"_s);
         QCOMPARE(config.lookup(u"p.k"_s), u"v"_s);
-        QVERIFY(!config.buildConfigFile(QString())); // it has no file
+    }
+
+    /// The toolkit complains on standard error when it is to open a file without a name.
+    void withoutANameNothingIsWrittenAndNothingIsSaid()
+    {
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
+        libconfig::Config none;
+        QVERIFY(!none.buildConfigFile(QString()));
+        QVERIFY(!none.buildConfigXmlFile(QString()));
+        libconfig::Config nameless(QString(), u"xml"_s);
+        QVERIFY(!nameless.buildConfigFile(QString()));
+        QVERIFY(!nameless.buildConfigXmlFile(QString()));
     }
 
     void aHundredThousandPairsKeepTheirOrderInReasonableTime()
