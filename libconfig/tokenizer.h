@@ -128,7 +128,8 @@ private:
     qint64 lineBegin = 0; ///< as an offset
 };
 
-/// The same for a file in memory, with all bytes of each piece; what the reader would leave unread comes last.
+/// The same for a file in memory, with all bytes of each piece; what the reader would leave unread comes
+/// last.
 void tokenize(const QByteArray &content, TokenListener &listener);
 
 /// The next byte of `stream`, nothing at its end, where it is left in a failed state. Also when a file that

@@ -1,17 +1,13 @@
 #pragma once
 
 #include "exitcode.h"
+#include "tokenizer.h"
 
 #include <QString>
 
 #include <vector>
 
-/// A place in a file, for people: lines and columns count from 1; columns in bytes, in XML in characters.
-struct Position
-{
-    qint64 line = 1;
-    qint64 column = 1;
-};
+using libconfig::Position;
 
 /// Why a command stops: one or more messages and the exit code. Thrown where the trouble is seen, printed in
 /// one place (see command.h).

@@ -183,9 +183,8 @@ void ConfigFile::checkXml()
     reader.setNamespaceProcessing(false);
     while (!reader.atEnd())
         reader.readNext();
-    const QString reason = reader.hasError()
-                               ? withoutFullStop(reader.errorString())
-                               : u"elements nest deeper than %1"_s.arg(libconfig::maxDepth);
+    const QString reason = reader.hasError() ? withoutFullStop(reader.errorString())
+                                             : u"elements nest deeper than %1"_s.arg(libconfig::maxDepth);
     throw CommandError(ExitCode::Unreadable, path, {reader.lineNumber(), reader.columnNumber() + 1},
                        u"%1; nothing is found in XML that is not well-formed"_s.arg(reason));
 }

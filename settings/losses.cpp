@@ -1,6 +1,6 @@
 #include "losses.h"
 
-#include "libconfig.h"
+#include "tokenizer.h"
 
 #include <QHash>
 #include <QXmlStreamReader>
@@ -9,195 +9,180 @@
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
+using libconfig::quoted;
+using libconfig::Token;
+using libconfig::TokenKind;
 
 namespace {
 
-constexpr qsizetype maxText = libconfig::maxTextLength;
 /// The writer puts a blank and two quotes around a value, and the reader counts them.
-constexpr qsizetype maxWrittenValue = maxText - 3;
+constexpr qsizetype maxWrittenValue = libconfig::maxTextLength - 3;
 
-/// Text collected from a place in the file.
-struct Piece
-{
-    QByteArray text;
-    Position at; ///< of its first character that is no white space
-
-    bool isBlank() const { return text.trimmed().isEmpty(); }
-    QString name() const { return QString::fromLatin1(text.trimmed()); }
-    QString quoted() const
-    {
-        constexpr qsizetype shown = 40;
-        const QString line = name().simplified();
-        return u'"' + (line.size() > shown ? line.first(shown) + "..."_L1 : line) + u'"';
-    }
-};
-
-/// Reads the text form as `libconfig::Config` does, and writes down what that drops. One operation for each
-/// step of the reader, so that the two can be held against each other.
-class TextScan
+/// Writes down what the reader drops of a file, and what the writer would.
+class LossFinder : public libconfig::TokenListener
 {
 public:
-    explicit TextScan(const QByteArray &bytes) : content(bytes) {}
-
-    std::vector<Loss> run()
+    void token(const Token &token) override
     {
-        scanItems(0);
+        switch (token.kind) {
+        case TokenKind::BlockName:
+            takeName(token);
+            isBraceMissing = true;
+            break;
+        case TokenKind::BeforeBrace:
+            lose(token, u"%1 between a block's name and its brace"_s);
+            break;
+        case TokenKind::OpenBrace:
+            openBlock();
+            break;
+        case TokenKind::Key:
+            takeKey(token);
+            break;
+        case TokenKind::Value:
+            takeValue(token);
+            break;
+        case TokenKind::Stray:
+            lose(token, u"%1, which belongs to no setting"_s);
+            break;
+        case TokenKind::CloseBrace:
+            isClosing = true;
+            brace = token.at;
+            break;
+        case TokenKind::BehindBrace:
+            lose(token, u"%1 between a closing brace and the next \";\" (is one missing?)"_s);
+            break;
+        case TokenKind::Semicolon:
+            endItem();
+            break;
+        case TokenKind::Unread:
+            endReading();
+            break;
+        case TokenKind::Colon:
+        case TokenKind::Equals:
+            break;
+        }
+    }
+
+    /// All losses, when the file has ended.
+    std::vector<Loss> inFileOrder()
+    {
+        if (isBraceMissing)
+            lose(name.at, u"block %1 without a brace"_s.arg(name.quoted));
+        while (blocks.size() > 1)
+            leaveBlock();
         std::ranges::stable_sort(losses, {},
                                  [](const Loss &loss) { return std::pair(loss.at.line, loss.at.column); });
         return losses;
     }
 
 private:
-    enum class Delimiter { Colon, Equals, Brace, End };
+    /// A name or a key, for messages.
+    struct Name
+    {
+        Position at;
+        QString quoted;
+    };
 
     struct Block
     {
+        Name name;
+        bool isLost = false; ///< with everything in it
         bool hasItems = false;
         bool hasChild = false; ///< a block that the tree holds
-        QHash<QByteArray, Position> pairs;
+        QHash<QString, Position> pairs;
     };
 
     void lose(Position at, const QString &what)
     {
-        if (!muted)
+        if (!blocks.back().isLost)
             losses.push_back({at, what});
     }
-
-    bool next(char &c)
+    void lose(const Token &token, const QString &what)
     {
-        if (place == content.size())
-            return false;
-        c = content[place++];
-        here = ahead;
-        ahead = c == '\n' ? Position{ahead.line + 1, 1} : Position{ahead.line, ahead.column + 1};
-        return true;
+        if (!token.isBlank())
+            lose(token.textAt(), what.arg(quoted(token.bytes)));
     }
 
-    /// Everything up to the next of `stops`, which is consumed and left in `stop` (0 at the end of the file).
-    Piece collect(QByteArrayView stops, char &stop)
+    void takeName(const Token &token)
     {
-        Piece piece;
-        bool blank = true;
-        piece.at = ahead;
-        while (next(stop)) {
-            if (stops.contains(stop))
-                return piece;
-            piece.text += stop;
-            if (blank && !QByteArrayView(" \t\n\v\f\r").contains(stop)) {
-                piece.at = here;
-                blank = false;
-            }
+        name = {token.textAt(), quoted(token.bytes)};
+        blocks.back().hasItems = true;
+        if (token.isCut()) {
+            lose(name.at, u"the end of %1: a name has room for %2 bytes, blanks in front included"_s.arg(
+                              name.quoted, QString::number(libconfig::maxTextLength)));
         }
-        stop = 0;
-        return piece;
     }
 
-    Block scanItems(int depth)
+    void openBlock()
     {
-        Block block;
-        char stop = 0;
-        do {
-            const Piece piece = collect(":=}", stop);
-            if (stop == ':') {
-                scanBlock(piece, block, depth);
-            } else if (stop == '=') {
-                scanPair(piece, block);
-            } else {
-                endBlock(piece, stop, depth);
-            }
-        } while (stop == ':' || stop == '=');
-        return block;
-    }
-
-    void scanBlock(const Piece &name, Block &parent, int depth)
-    {
-        checkLength(name);
-        parent.hasItems = true;
-        char brace = 0;
-        const Piece between = collect("{", brace);
-        if (!between.isBlank())
-            lose(between.at, u"%1 between a block's name and its brace"_s.arg(between.quoted()));
-        if (brace == 0) {
-            lose(name.at, u"block %1 without a brace"_s.arg(name.quoted()));
-            return;
-        }
+        isBraceMissing = false;
+        const int depth = int(blocks.size()) - 1;
         if (depth == libconfig::maxDepth) {
             lose(name.at, u"blocks nested deeper than %1, and everything behind"_s.arg(depth));
-            place = content.size();
             return;
         }
-        const bool isLater = depth == 0 && parent.hasChild;
-        if (isLater) {
-            lose(name.at,
-                 u"block %1: only the first top-level block is read and written"_s.arg(name.quoted()));
-        }
-        const bool wasMuted = std::exchange(muted, muted || isLater); // what is in it is lost with it
-        const Block block = scanItems(depth + 1);
-        muted = wasMuted;
-        if (!block.hasItems)
-            lose(name.at, u"empty block %1"_s.arg(name.quoted()));
-        parent.hasChild |= block.hasItems;
+        const bool isLater = depth == 0 && blocks.back().hasChild;
+        if (isLater)
+            lose(name.at, u"block %1: only the first top-level block is read and written"_s.arg(name.quoted));
+        const bool isLost = isLater || blocks.back().isLost;
+        blocks.emplace_back().isLost = isLost;
+        blocks.back().name = name;
     }
 
-    void scanPair(const Piece &key, Block &block)
+    void leaveBlock()
     {
-        checkLength(key);
-        block.hasItems = true;
-        const Position keyAt = key.at;
-        const QByteArray name = key.text.first(std::min(key.text.size(), maxText)).trimmed();
-        if (const auto earlier = block.pairs.constFind(name); earlier != block.pairs.cend()) {
-            lose(*earlier,
-                 u"this value of %1: line %2 gives another"_s.arg(key.quoted(), QString::number(keyAt.line)));
-        }
-        block.pairs[name] = keyAt;
-        char stop = 0;
-        checkValue(collect(";", stop), key);
+        const Block left = std::move(blocks.back());
+        blocks.pop_back();
+        if (!left.hasItems)
+            lose(left.name.at, u"empty block %1"_s.arg(left.name.quoted));
+        blocks.back().hasChild |= left.hasItems;
     }
 
-    void checkValue(const Piece &value, const Piece &key)
+    void takeKey(const Token &token)
     {
-        const QByteArray stripped = value.text.trimmed();
+        takeName(token);
+        QHash<QString, Position> &pairs = blocks.back().pairs;
+        if (const auto earlier = pairs.constFind(token.name()); earlier != pairs.cend()) {
+            lose(*earlier, u"this value of %1: line %2 gives another"_s.arg(name.quoted,
+                                                                            QString::number(name.at.line)));
+        }
+        pairs[token.name()] = name.at;
+    }
+
+    void takeValue(const Token &token)
+    {
+        const QByteArrayView stripped = token.bytes.trimmed();
         const bool isQuoted = stripped.size() >= 2 && stripped.startsWith('"') && stripped.endsWith('"');
-        const QByteArray inside = isQuoted ? stripped.sliced(1, stripped.size() - 2) : stripped;
-        if (inside.contains('"'))
-            lose(value.at, u"the quotes inside the value of %1 (is a \";\" missing?)"_s.arg(key.quoted()));
-        if (value.text.size() > maxText || inside.size() > maxWrittenValue) {
-            lose(value.at, u"the end of the value of %1: a value has room for %2 bytes"_s.arg(
-                               key.quoted(), QString::number(maxWrittenValue)));
+        const QByteArrayView inside = isQuoted ? stripped.sliced(1, stripped.size() - 2) : stripped;
+        if (inside.contains('"')) {
+            lose(token.textAt(),
+                 u"the quotes inside the value of %1 (is a \";\" missing?)"_s.arg(name.quoted));
+        }
+        if (token.isCut() || inside.size() > maxWrittenValue) {
+            lose(token.textAt(), u"the end of the value of %1: a value has room for %2 bytes"_s.arg(
+                                     name.quoted, QString::number(maxWrittenValue)));
         }
     }
 
-    void checkLength(const Piece &name)
+    /// Behind a pair, or behind the brace that closes a block.
+    void endItem()
     {
-        if (name.text.size() > maxText) {
-            lose(name.at, u"the end of %1: a name has room for %2 bytes, blanks in front included"_s.arg(
-                              name.quoted(), QString::number(maxText)));
-        }
+        if (isClosing && blocks.size() > 1)
+            leaveBlock();
+        isClosing = false;
     }
 
-    /// At a closing brace, or at the end of the file, with what stood in front of it.
-    void endBlock(const Piece &piece, char stop, int depth)
+    void endReading()
     {
-        if (!piece.isBlank())
-            lose(piece.at, u"%1, which belongs to no setting"_s.arg(piece.quoted()));
-        if (stop != '}')
-            return;
-        const Position brace = here;
-        char semicolon = 0;
-        const Piece skipped = collect(";", semicolon);
-        if (!skipped.isBlank()) {
-            lose(skipped.at,
-                 u"%1 between a closing brace and the next \";\" (is one missing?)"_s.arg(skipped.quoted()));
-        }
-        if (depth == 0 && place < content.size())
+        if (blocks.size() == 1)
             lose(brace, u"everything behind this brace, which closes no block"_s);
     }
 
-    const QByteArray content;
-    qsizetype place = 0;
-    Position here;  ///< of the character read last
-    Position ahead; ///< of the next one
-    bool muted = false;
+    std::vector<Block> blocks{Block()}; ///< from the file down to the block being read
+    Name name;                          ///< the last one
+    bool isBraceMissing = false;        ///< behind the last name, which is a block's
+    bool isClosing = false;
+    Position brace; ///< the last closing one
     std::vector<Loss> losses;
 };
 
@@ -254,7 +239,9 @@ private:
 
 std::vector<Loss> lossesInText(const QByteArray &content)
 {
-    return TextScan(content).run();
+    LossFinder finder;
+    libconfig::tokenize(content, finder);
+    return finder.inFileOrder();
 }
 
 std::vector<Loss> lossesInXml(const QByteArray &content)
