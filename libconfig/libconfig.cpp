@@ -150,11 +150,12 @@ void Config::readFile(const QString &name, const QString &type)
 void Config::readContent(const QByteArray &content, const QString &name, const QString &type)
 {
     begin(name, type);
-    std::istringstream stream(content.toStdString());
-    if (fileType == "cfg"_L1)
+    if (fileType == "cfg"_L1) {
+        std::istringstream stream(content.toStdString());
         readText(stream);
-    else if (fileType == "xml"_L1)
+    } else if (fileType == "xml"_L1) {
         readXml(content);
+    }
 }
 
 void Config::begin(const QString &name, const QString &type)

@@ -28,7 +28,7 @@ namespace libconfig {
 class Config
 {
 public:
-    /// No file and no tree; only `readFile` may follow.
+    /// No file and no tree; only `readFile` or `readContent` may follow.
     Config();
     Config(const QString &fileName, const QString &fileType);
     Config(const Config &) = delete;

@@ -2,44 +2,17 @@
 
 #include "orderedattributes.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
 #include <cerrno>
-#include <sys/mman.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-/// A file in memory that has a path, for the writers and readers that want one: nothing is left behind,
-/// however the program ends.
-class MemoryFile
-{
-public:
-    MemoryFile() : file(::memfd_create("palvestrin", MFD_CLOEXEC))
-    {
-        if (file < 0)
-            throw CommandError(ExitCode::WriteFailed, u"there is no memory for the new file"_s);
-    }
-    ~MemoryFile() { ::close(file); }
-    MemoryFile(const MemoryFile &) = delete;
-    MemoryFile &operator=(const MemoryFile &) = delete;
-
-    QString path() const { return u"/proc/self/fd/%1"_s.arg(file); }
-    void write(const QByteArray &content) const
-    {
-        QFile target(path());
-        if (!target.open(QIODevice::WriteOnly) || target.write(content) != content.size() || !target.flush())
-            throw CommandError(ExitCode::WriteFailed, u"there is no memory for a copy of the file"_s);
-    }
-
-private:
-    int file;
-};
 
 /// Whether there is a file. Throws a CommandError (Unreadable) when nobody can tell, as in a folder that may
 /// not be entered.
@@ -160,10 +133,7 @@ void ConfigFile::read()
     bytes = bytesOf(path);
     if (looksLikeXml(bytes))
         form = form::xml;
-    const MemoryFile copy; // the file itself may hold other bytes by now
-    copy.write(bytes);
-    tree.readFile(copy.path(), form);
-    tree.root().setTagName(path);
+    tree.readContent(bytes, path, form);
     if (form == form::xml)
         checkXml();
 }
@@ -214,20 +184,34 @@ CommandError ConfigFile::lossesAsError() const
     return error;
 }
 
+QByteArray ConfigFile::inForm(const QString &as)
+{
+    QBuffer memory;
+    memory.open(QIODevice::WriteOnly);
+    // Whether the writer says that all is well does not matter: `changedIn` sees more.
+    if (as == form::xml) {
+        tree.buildConfigXmlFile(memory);
+    } else {
+        tree.buildConfigFile(memory);
+    }
+    return memory.data();
+}
+
+QString ConfigFile::changedIn(const QString &as)
+{
+    libconfig::Config readAgain;
+    readAgain.readContent(inForm(as), path, as);
+    return firstDifference(tree.root(), readAgain.root());
+}
+
 QByteArray ConfigFile::written(const QString &as, bool evenIfItChanges)
 {
-    const MemoryFile memory;
-    if (!(as == form::xml ? tree.buildConfigXmlFile(memory.path()) : tree.buildConfigFile(memory.path())))
-        throw CommandError(ExitCode::WriteFailed, path, u"there is no memory for the new file"_s);
-    if (!evenIfItChanges) {
-        libconfig::Config readAgain(memory.path(), as);
-        const QString changed = firstDifference(tree.root(), readAgain.root());
-        if (!changed.isEmpty()) {
-            throw CommandError(ExitCode::Refused, path,
-                               u"\"%1\" would not survive: %2"_s.arg(changed, whatFits(as)));
-        }
+    const QString changed = evenIfItChanges ? QString() : changedIn(as);
+    if (!changed.isEmpty()) {
+        throw CommandError(ExitCode::Refused, path,
+                           u"\"%1\" would not survive: %2"_s.arg(changed, whatFits(as)));
     }
-    return bytesOf(memory.path());
+    return inForm(as);
 }
 
 QString ConfigFile::save(FileReplacement &replacement, bool force)

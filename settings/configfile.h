@@ -37,6 +37,9 @@ public:
     /// All losses with their places as one error (WouldLose) that names --force as the way on.
     CommandError lossesAsError() const;
 
+    /// The first setting, as a dotted path, that would read differently from a file of form `as`; "" when all
+    /// of the tree survives.
+    QString changedIn(const QString &as);
     /// The tree as the bytes of a file of form `as`. Throws a CommandError (Refused) when that form cannot
     /// hold the tree, naming the first setting that would change; with `evenIfItChanges` it does not look.
     QByteArray written(const QString &as, bool evenIfItChanges = false);
@@ -51,6 +54,7 @@ private:
     void read();
     void checkXml();
     void keepFirstElement();
+    QByteArray inForm(const QString &as);
 
     bool isThere = false;
     QString form;
