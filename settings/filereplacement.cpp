@@ -2,16 +2,19 @@
 
 #include "commanderror.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,9 +23,17 @@ namespace {
 
 constexpr mode_t ownerOnly = 0600;
 
-bool isSameFile(const struct stat &one, const struct stat &other)
+/// How long a second writer waits for the first, and how often it looks: saving takes a fraction of a second.
+constexpr std::chrono::seconds patience(2);
+constexpr std::chrono::milliseconds interval(10);
+
+/// Whether `path` leads to the open `file`.
+bool isNamed(int file, const QByteArray &path)
 {
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+    struct stat open = {};
+    struct stat named = {};
+    return ::fstat(file, &open) == 0 && ::stat(path.constData(), &named) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
 /// Brings the names in a folder to the disk. Some file systems cannot, and then keep them in another way.
@@ -77,28 +88,30 @@ FileReplacement::~FileReplacement()
 
 void FileReplacement::lock()
 {
-    for (;;) {
-        file = ::open(newPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ownerOnly);
-        if (file < 0)
-            fail(u"%1 cannot be opened (%2)"_s.arg(QFile::decodeName(newPath), qt_error_string(errno)));
-        if (::flock(file, LOCK_EX | LOCK_NB) != 0) {
-            const int reason = errno;
-            ::close(file);
-            if (reason == EWOULDBLOCK) {
-                throw CommandError(ExitCode::Busy, path,
-                                   u"another program is writing this file; try again when it is done"_s);
-            }
-            fail(u"it cannot be locked (%1)"_s.arg(qt_error_string(reason)));
+    const QDeadlineTimer end(patience);
+    while (!tryLock()) {
+        if (end.hasExpired()) {
+            throw CommandError(ExitCode::Busy, path,
+                               u"another program is writing this file; try again when it is done"_s);
         }
-        // Between opening and locking, another program may have finished: then its file has moved on to be
-        // the configuration itself, and this lock is worth nothing.
-        struct stat locked = {};
-        struct stat named = {};
-        if (::fstat(file, &locked) == 0 && ::stat(newPath.constData(), &named) == 0 &&
-            isSameFile(locked, named))
-            return;
-        ::close(file);
+        std::this_thread::sleep_for(interval);
     }
+}
+
+bool FileReplacement::tryLock()
+{
+    file = ::open(newPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ownerOnly);
+    if (file < 0)
+        fail(u"%1 cannot be opened (%2)"_s.arg(QFile::decodeName(newPath), qt_error_string(errno)));
+    const int reason = ::flock(file, LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
+    // Between opening and locking, another program may have finished: then its file has moved on to be the
+    // configuration itself, and this lock is worth nothing.
+    if (reason == 0 && isNamed(file, newPath))
+        return true;
+    ::close(file);
+    if (reason != 0 && reason != EWOULDBLOCK)
+        fail(u"it cannot be locked (%1)"_s.arg(qt_error_string(reason)));
+    return false;
 }
 
 void FileReplacement::takeOver(const QString &model)

@@ -7,18 +7,18 @@
 /// new one, whole.
 ///
 /// The new content goes to a file beside the old one, named ".<name>.new", is brought to the disk and
-/// renamed. That file is the lock too: of two programs that replace the same file at once, the second is told
-/// so. The lock is the operating system's, so nothing a killed program leaves behind keeps anybody out: the
-/// next one takes its half-written ".new" file over.
+/// renamed. That file is the lock too: of two programs that replace the same file at once, the second waits
+/// for the first, and is told so when that takes too long. The lock is the operating system's, so nothing a
+/// killed program leaves behind keeps anybody out: the next one takes its half-written ".new" file over.
 ///
 /// Owner and permissions of the old file are kept; a file without a predecessor is the owner's alone, for it
 /// may hold a password. A symbolic link stays one: the file that it leads to is replaced.
 class FileReplacement
 {
 public:
-    /// Takes the lock on `path`. Throws a CommandError: Busy when another program holds it, WriteFailed when
-    /// the file or its folder cannot be written, or what is there is no regular file. Folders that are
-    /// missing are made.
+    /// Takes the lock on `path`. Throws a CommandError: Busy when another program holds it and does not give
+    /// it away within two seconds, WriteFailed when the file or its folder cannot be written, or what is
+    /// there is no regular file. Folders that are missing are made.
     explicit FileReplacement(const QString &path);
     /// The same; the new file takes owner and permissions of `model`, which exists.
     FileReplacement(const QString &path, const QString &model);
@@ -32,6 +32,8 @@ public:
 
 private:
     void lock();
+    /// False when another program holds the lock, or held it until now.
+    bool tryLock();
     void takeOver(const QString &model);
     void writeAll(const QByteArray &content);
     [[noreturn]] void fail(const QString &what) const;

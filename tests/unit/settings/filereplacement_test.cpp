@@ -2,13 +2,17 @@
 #include "filereplacement.h"
 #include "scratchfolder.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QTest>
+#include <QThread>
 
 #include <csignal>
 #include <fcntl.h>
+#include <memory>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -121,11 +125,35 @@ private Q_SLOTS:
         const ScratchFolder folder;
         const QString path = folder.write(u"c"_s, "old");
         FileReplacement first(path);
+        QElapsedTimer waited;
+        waited.start();
         QCOMPARE(codeOf([&] { const FileReplacement second(path); }), ExitCode::Busy);
+        QVERIFY2(waited.elapsed() >= 2000 && waited.elapsed() < 10000,
+                 qPrintable(QString::number(waited.elapsed())));
         first.commit("new");
         QCOMPARE(folder.read(u"c"_s), "new");
         QCOMPARE(codeOf([&] { FileReplacement(path).commit("newer"); }), ExitCode::Done);
         QCOMPARE(folder.read(u"c"_s), "newer");
+    }
+
+    void theSecondWaitsForTheFirst()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c"_s, "old");
+        auto first = std::make_unique<FileReplacement>(path);
+        QByteArray found;
+        std::thread second([&] {
+            FileReplacement replacement(path);
+            found = folder.read(u"c"_s);
+            replacement.commit("second");
+        });
+        QThread::msleep(300);
+        first->commit("first");
+        first.reset();
+        second.join();
+        QCOMPARE(found, "first");
+        QCOMPARE(folder.read(u"c"_s), "second");
+        QCOMPARE(folder.names(), QStringList{u"c"_s});
     }
 
     void theSecondIsToldWhenThereIsNoFileYet()
