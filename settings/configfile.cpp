@@ -184,6 +184,11 @@ CommandError ConfigFile::lossesAsError() const
     return error;
 }
 
+std::vector<DeadLine> ConfigFile::deadLines(const QString &key) const
+{
+    return form == form::xml ? std::vector<DeadLine>() : ::deadLines(bytes, key);
+}
+
 QByteArray ConfigFile::inForm(const QString &as)
 {
     QBuffer memory;

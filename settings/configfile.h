@@ -1,5 +1,6 @@
 #pragma once
 
+#include "deadlines.h"
 #include "filereplacement.h"
 #include "libconfig.h"
 #include "losses.h"
@@ -36,6 +37,10 @@ public:
     std::vector<Loss> losses() const;
     /// All losses with their places as one error (WouldLose) that names --force as the way on.
     CommandError lossesAsError() const;
+
+    /// The lines of the file that look as if they set `key` and do not; see `deadLines`. After `save` they
+    /// are those of the new file. The XML form has none.
+    std::vector<DeadLine> deadLines(const QString &key) const;
 
     /// The first setting, as a dotted path, that would read differently from a file of form `as`; "" when all
     /// of the tree survives.

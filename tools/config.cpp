@@ -72,8 +72,8 @@ void requireReadForm(const CommandLine &line, const ConfigFile &file)
     if (!hasUnreadForm(line, file))
         return;
     throw CommandError(ExitCode::Unreadable, file.path,
-                       u"%1; \"palvestrin config convert --to cfg --output %2 %2\" makes it text"_s.arg(
-                           unreadForm, file.path));
+                       u"%1; make it text: palvestrin config convert --to cfg --force --output %2 %2"_s.arg(
+                           unreadForm, shellWord(file.path)));
 }
 
 void requireKnownKey(const QString &key)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "advice.h"
 #include "command.h"
 #include "configfile.h"
 
@@ -38,9 +39,9 @@ void requireKnownKey(const QString &key);
 /// Tells where the old file is kept for good, if it is.
 void tellBackup(const QString &path);
 
-/// Locks the chosen file, reads it, lets `change` change the tree, and saves. Throws a CommandError.
+/// Locks the chosen file, reads it, lets `change` change `key` in the tree, and saves. Throws a CommandError.
 template <typename Change>
-void changeFile(const CommandLine &line, Change change)
+void changeFile(const CommandLine &line, const QString &key, Change change)
 {
     const QString path = chosenFile(line);
     FileReplacement replacement(path);
@@ -48,4 +49,5 @@ void changeFile(const CommandLine &line, Change change)
     requireReadForm(line, file);
     change(file);
     tellBackup(file.save(replacement, line.has(QStringLiteral("force"))));
+    tellDeadLines(file, key);
 }

@@ -12,8 +12,11 @@ namespace {
 /// The new file, or a CommandError that tells what it would lose.
 QByteArray converted(ConfigFile &file, const QString &to, bool force)
 {
-    if (!force && !file.losses().empty())
+    if (force) {
+        tellLosses(file, to);
+    } else if (!file.losses().empty()) {
         throw file.lossesAsError();
+    }
     return file.written(to, force);
 }
 

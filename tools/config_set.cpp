@@ -53,7 +53,7 @@ ExitCode runConfigSet(const QStringList &arguments)
         requireSensible(key, value);
     requireStorable(key, value);
 
-    changeFile(line, [&](ConfigFile &file) {
+    changeFile(line, key, [&](ConfigFile &file) {
         if (!setKey(file.config(), key, value))
             refuseOtherBlock(file, key);
     });

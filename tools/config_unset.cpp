@@ -11,10 +11,11 @@ ExitCode runConfigUnset(const QStringList &arguments)
         return ExitCode::Done;
     const QString key = line.argument(0);
     requireFile(ConfigFile(chosenFile(line))); // first, for a change makes the folders that are missing
-    changeFile(line, [&](ConfigFile &file) {
+    changeFile(line, key, [&](ConfigFile &file) {
         if (removeKey(file.config(), key))
             return;
         requireKnownKey(key);
+        tellDeadLines(file, key);
         throw CommandError(ExitCode::NotSet, file.path, u"\"%1\" is not set"_s.arg(key));
     });
     return ExitCode::Done;

@@ -404,9 +404,10 @@ private Q_SLOTS:
               QStringList{u"unset"_s, u"palvestrin.db.dbname"_s}, QStringList{u"edit"_s}}) {
             const Result refused = run(arguments);
             QCOMPARE(refused.code, 4);
-            QCOMPARE(refused.errors, file + ": error: " + reason +
-                                         "; \"palvestrin config convert --to cfg --output " + file + ' ' +
-                                         file + "\" makes it text\n");
+            QCOMPARE(refused.errors,
+                     file + ": error: " + reason +
+                         "; make it text: palvestrin config convert --to cfg --force --output " + file + ' ' +
+                         file + '\n');
         }
         QCOMPARE(runOn(path, {u"get"_s, u"palvestrin.db.dbname"_s}).output, "shop\n");
 
@@ -415,6 +416,118 @@ private Q_SLOTS:
         const Result now = run({u"get"_s, u"palvestrin.db.dbname"_s});
         QCOMPARE(now.output, "bar\n");
         QCOMPARE(now.errors, "");
+    }
+
+    /// The command that a refusal suggests is given to a shell as it stands.
+    void theSuggestedConversionWorksAsPrinted_data()
+    {
+        QTest::addColumn<QString>("homeName");
+        QTest::newRow("a plain home") << u"home"_s;
+        QTest::newRow("blanks") << u"my  home"_s;
+        QTest::newRow("quotes") << u"it's \"home\""_s;
+        QTest::newRow("what a shell would take for its own") << u"$HOME `id`;a&b*(c)\\"_s;
+        QTest::newRow("a letter with an accent") << u"citt\u00e0"_s;
+    }
+    void theSuggestedConversionWorksAsPrinted()
+    {
+        QFETCH(QString, homeName);
+        const ScratchFolder folder;
+        const QString conf = homeName + u"/.palvestrin/conf/"_s;
+        QVERIFY(QDir(folder.path()).mkpath(conf));
+        folder.write(conf + u"palvestrin.conf"_s, "<palvestrin><db dbname='shop'/></palvestrin>");
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"HOME"_s, folder.path(homeName));
+        environment.insert(u"PATH"_s, QFileInfo(QStringLiteral(PALVESTRIN_PROGRAM)).path());
+        const auto inShell = [&environment](const QString &line) {
+            QProcess shell;
+            shell.setProcessEnvironment(environment);
+            shell.start(u"/bin/sh"_s, {u"-c"_s, line});
+            shell.waitForFinished();
+            return Result{shell.exitCode(), shell.readAllStandardOutput(), shell.readAllStandardError()};
+        };
+        const Result refused = inShell(u"palvestrin config set palvestrin.db.dbname bar"_s);
+        QCOMPARE(refused.code, 4);
+        const QString message = QString::fromUtf8(refused.errors).trimmed();
+        const QString before = u"make it text: "_s;
+        QVERIFY2(message.contains(before), qPrintable(message));
+
+        const Result suggested = inShell(message.sliced(message.indexOf(before) + before.size()));
+        QCOMPARE(suggested.errors, "palvestrin: note: the file as it was is kept as " +
+                                       folder.path(conf).toUtf8() + "palvestrin.conf.bak.1\n");
+        QCOMPARE(suggested.code, 0);
+        QCOMPARE(folder.read(conf + u"palvestrin.conf"_s),
+                 "palvestrin: \n{\n    db: \n    {\n        dbname = \"shop\";\n    };\n\n};\n\n");
+        QCOMPARE(inShell(u"palvestrin config set palvestrin.db.dbname bar"_s).code, 0);
+    }
+
+    void aForcedConversionTellsWhatItLoses()
+    {
+        const ScratchFolder folder;
+        const QString path =
+            folder.write(u"c.xml"_s, "<palvestrin>\n  <!-- mine -->\n  <db dbname='5 \xe2\x82\xac'/>\n"
+                                     "</palvestrin>\n");
+        const Result forced = run({u"convert"_s, u"--to"_s, u"cfg"_s, u"--force"_s, path});
+        QCOMPARE(forced.code, 0);
+        QCOMPARE(forced.output,
+                 "palvestrin: \n{\n    db: \n    {\n        dbname = \"5 ?\";\n    };\n\n};\n\n");
+        QCOMPARE(forced.errors, path.toUtf8() + ":2:3: note: lost: the remark \"mine\"\n" +
+                                    "palvestrin: note: " + path.toUtf8() +
+                                    ": \"palvestrin.db.dbname\" does not survive\n");
+    }
+
+    void aLineBehindARemarkIsNotLeftWithoutAWord()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(
+            u"c.conf"_s, "palvestrin: {\n  logger: {\n    # loud\n    level = INFO;\n  };\n};\n");
+        const QByteArray file = path.toUtf8();
+        const QByteArray why =
+            " note: this line sets nothing: \"# loud\" in front of \"level\" is read as part "
+            "of that name; remove that text and this line\n";
+        const Result nothing = runOn(path, {u"unset"_s, u"palvestrin.logger.level"_s});
+        QCOMPARE(nothing.code, 1);
+        QCOMPARE(nothing.errors,
+                 file + ":4:5:" + why + file + ": error: \"palvestrin.logger.level\" is not set\n");
+
+        const Result set = runOn(path, {u"set"_s, u"palvestrin.logger.level"_s, u"DEBUG"_s});
+        QCOMPARE(set.code, 0);
+        QCOMPARE(set.output, "");
+        QCOMPARE(folder.read(u"c.conf"_s), "palvestrin: \n{\n    logger: \n    {\n        # loud\n"
+                                           "    level = \"INFO\";\n        level = \"DEBUG\";\n"
+                                           "    };\n\n};\n\n");
+        QCOMPARE(set.errors, file + ":6:5:" + why);
+
+        const Result unset = runOn(path, {u"unset"_s, u"palvestrin.logger.level"_s});
+        QCOMPARE(unset.code, 0);
+        QCOMPARE(unset.errors, file + ":6:5:" + why);
+
+        // What the note advises mends it.
+        QCOMPARE(runOn(path, {u"set"_s, u"palvestrin.logger.type"_s, u"APPEND"_s}).code, 0);
+        folder.write(u"c.conf"_s,
+                     folder.read(u"c.conf"_s).replace("        # loud\n    level = \"INFO\";\n", ""));
+        const Result mended = runOn(path, {u"set"_s, u"palvestrin.logger.level"_s, u"DEBUG"_s});
+        QCOMPARE(mended.errors, "");
+        QCOMPARE(mended.code, 0);
+    }
+
+    void aLineInAValueIsNotLeftWithoutAWord()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(
+            u"c.conf"_s, "palvestrin: {\n  logger: {\n    type = APPEND\n    level = INFO;\n  };\n};\n");
+        const Result set = runOn(path, {u"set"_s, u"palvestrin.logger.level"_s, u"DEBUG"_s});
+        QCOMPARE(set.code, 0);
+        QCOMPARE(set.errors, path.toUtf8() +
+                                 ":6:5: note: this line sets nothing: it is read as part of the value of "
+                                 "\"type\"; put a \";\" behind that value and remove this line\n");
+        QCOMPARE(folder.read(u"c.conf"_s), "palvestrin: \n{\n    logger: \n    {\n        type = \"APPEND\n"
+                                           "    level = INFO\";\n        level = \"DEBUG\";\n"
+                                           "    };\n\n};\n\n");
+        // What the note advises mends it.
+        folder.write(u"c.conf"_s,
+                     folder.read(u"c.conf"_s).replace("APPEND\n    level = INFO\";\n", "APPEND;\n"));
+        QCOMPARE(runOn(path, {u"get"_s, u"palvestrin.logger.type"_s}).output, "APPEND\n");
+        QCOMPARE(runOn(path, {u"get"_s, u"palvestrin.logger.level"_s}).output, "DEBUG\n");
     }
 
     void aMissingFile()
