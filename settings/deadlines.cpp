@@ -87,14 +87,15 @@ private:
             return;
         std::vector<ReadName> names = blocks;
         names.push_back(name);
-        const auto changed = std::ranges::find_if(names, [](const ReadName &of) { return !of.front.isEmpty(); });
+        const auto changed =
+            std::ranges::find_if(names, [](const ReadName &of) { return !of.front.isEmpty(); });
         if (changed == names.end())
             return;
         const qsizetype end = token.bytes.trimmed().end() - token.bytes.begin();
-        found.push_back({token.positionOf(end - wanted.size()),
-                         u"this line sets nothing: %1 in front of %2 is read as part of that name; "
-                         "remove that text and this line"_s.arg(quoted(changed->front),
-                                                                quoted(changed->word))});
+        found.push_back(
+            {token.positionOf(end - wanted.size()),
+             u"this line sets nothing: %1 in front of %2 is read as part of that name; "
+             "remove that text and this line"_s.arg(quoted(changed->front), quoted(changed->word))});
     }
 
     void checkValue(const Token &token)
@@ -114,9 +115,9 @@ private:
         const QByteArrayView line = token.bytes.sliced(begin);
         if (!line.startsWith(wanted) || !line.sliced(wanted.size()).trimmed().startsWith('='))
             return;
-        found.push_back({token.positionOf(begin),
-                         u"this line sets nothing: it is read as part of the value of %1; "
-                         "put a \";\" behind that value and remove this line"_s.arg(lastKey)});
+        found.push_back(
+            {token.positionOf(begin), u"this line sets nothing: it is read as part of the value of %1; "
+                                      "put a \";\" behind that value and remove this line"_s.arg(lastKey)});
     }
 
     QList<QByteArray> way;

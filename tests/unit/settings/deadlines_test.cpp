@@ -45,7 +45,8 @@ private Q_SLOTS:
             glued("1:24", "/* x */", "level"));
         row("a semicolon too many", "p: { logger: { a = 1;; level = INFO; }; };",
             glued("1:24", ";", "level"));
-        row("a setting that is out of use", "p: { logger: {\n # level = INFO;\n#\n  // old level = 1;\n }; };", "");
+        row("a setting that is out of use",
+            "p: { logger: {\n # level = INFO;\n#\n  // old level = 1;\n }; };", "");
         row("out of use below a remark", "p: { logger: { note\n # level = INFO; }; };", "");
         row("a remark above the block", "p: {\n  # mine\n  logger: { level = INFO; };\n};",
             glued("3:13", "# mine", "logger"));
@@ -63,8 +64,8 @@ private Q_SLOTS:
             glued("2:2", "#" + QByteArray(39, 'x') + "...", "level"));
         row("a missing semicolon above", "p: { logger: {\n  a = 1\n\n  level = INFO;\n }; };",
             swallowed("4:3", "a"));
-        row("a remark with an equals sign above", "p: { logger: {\n  # level = loudness\n  level=\"INFO\";\n }; };",
-            swallowed("3:3", "# level"));
+        row("a remark with an equals sign above",
+            "p: { logger: {\n  # level = loudness\n  level=\"INFO\";\n }; };", swallowed("3:3", "# level"));
         row("a missing semicolon two lines above", "p: { logger: { a = 1\n b = 2\n level = 3; }; };",
             swallowed("3:2", "a"));
         row("a value that only mentions it", "p: { logger: { a = the\n level; b = level = 3; }; };", "");

@@ -344,6 +344,30 @@ private Q_SLOTS:
         QCOMPARE(process.exitCode(), 4);
     }
 
+    /// As in a container or a rescue system.
+    void worksWithoutProc()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, example);
+        const auto withoutProc = [](const QStringList &arguments) {
+            QProcess process;
+            process.start(u"unshare"_s, QStringList{u"-rm"_s, u"sh"_s, u"-c"_s,
+                                                    u"mount -t tmpfs none /proc && exec \"$@\""_s, u"sh"_s,
+                                                    QStringLiteral(PALVESTRIN_PROGRAM)} +
+                                            arguments);
+            process.waitForFinished();
+            return Result{process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                          process.readAllStandardOutput(), process.readAllStandardError()};
+        };
+        if (withoutProc({u"--version"_s}).code != 0)
+            QSKIP("this machine lets nobody hide /proc, or a sanitizer needs it");
+        const Result set =
+            withoutProc({u"config"_s, u"set"_s, u"--file"_s, path, u"palvestrin.logger.level"_s, u"DEBUG"_s});
+        QCOMPARE(set.errors, "");
+        QCOMPARE(set.code, 0);
+        QCOMPARE(folder.read(u"c.conf"_s), QByteArray(example).replace("INFO", "DEBUG"));
+    }
+
     void whatIsNoFileIsNotRead()
     {
         const ScratchFolder folder;
