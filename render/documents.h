@@ -124,7 +124,7 @@ inline constexpr Attribute customerAttributes[] = {
 inline constexpr Element sectionElements[] = {
     {"printers"_L1, printPrintersSection, printersAttributes},
     {"geometry"_L1, printGeometrySection, {}, margin, &Settings::printGeometry},
-    {"headers"_L1, printHeadersSection, headersAttributes, rule}, // and the printer's name, whatever the flag
+    {"headers"_L1, printHeadersSection, headersAttributes, rule}, // the printer's name whatever the flag says
     {"logo"_L1, printLogoSection},
     {"company"_L1, printCompanySection, companyAttributes, rule, &Settings::printCompany},
     {"receipt"_L1, printReceiptSection, receiptAttributes, rule},

@@ -36,6 +36,7 @@ struct ItemTitles
 ///   - `print` and `println` for text, any number of times in between;
 ///   - `setBold`, `setCharSize`, `setCenterJustify` before the text that they concern; they last until the
 ///   next.
+///
 /// It is also the settings of the current document kind, each under its name. Two of those names are
 /// operations of the driver too: `DocumentSettings::printGeometry` and `DocumentSettings::printLogo`.
 class PrinterDriver : public QXmlDefaultHandler, protected DocumentSettings

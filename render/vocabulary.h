@@ -30,7 +30,7 @@ enum class AttributeType {
 enum class WhenMissing {
     LeavesHole,     ///< its label or its column is printed with nothing in it
     PrintsLess,     ///< its line is not printed: it may be left out
-    CountsAsZero,   ///< its line is printed as for "0"
+    CountsAsZero,   ///< it counts as "0"
     ChangesNothing, ///< it never reaches the paper; it is kept for other devices
     EndsJob         ///< nothing of the job is printed from there on
 };
@@ -52,7 +52,7 @@ struct Attribute
     /// What prints it on a line of its own, one of lines.h. Null when its element does, among other columns.
     void (*printLine)(PrinterDriver &driver, const QString &label, const QString &value) = nullptr;
     const char *label = nullptr; ///< of its line, to be translated; null for none
-    FlagMember flag = nullptr;   ///< the setting that must be on for it to be printed; null when none must
+    FlagMember flag = nullptr;   ///< the setting that must be on for it to print; null when none must
     Reading reading = Reading::AsText;
 };
 
@@ -73,8 +73,7 @@ struct Element
     void (*print)(PrinterDriver &driver, const QXmlAttributes &attributes);
     std::span<const Attribute> attributes = {};
     std::span<const CountMember> counts = {}; ///< the settings that it consults beside the flags
-    FlagMember flag =
-        nullptr; ///< the setting that must be on for anything to be printed; null when none must
+    FlagMember flag = nullptr; ///< the setting that must be on for it to print at all; null when none must
 };
 
 /// What a print method prints.

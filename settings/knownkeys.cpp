@@ -18,7 +18,7 @@ using vocabulary::ValueKind;
 
 namespace {
 
-constexpr unsigned int printerWidth = CompanyPrinterDriver::lineWidth;
+constexpr int printerWidth = CompanyPrinterDriver::lineWidth;
 constexpr int largestSensibleCount = 999;
 
 QStringList methodsOf(const DocumentKind &kind, const DocumentSetting &setting)
@@ -132,7 +132,7 @@ QString effectiveValue(const Key &key, const QString &value)
     case ValueKind::Count:
         return QString::number(value.toInt());
     case ValueKind::Width:
-        return QString::number(value.toInt() == 0 ? int(printerWidth) : value.toInt());
+        return QString::number(value.toInt() == 0 ? printerWidth : value.toInt());
     case ValueKind::Flag:
         return isOneOf(value, key.kind) ? value : u"false"_s;
     case ValueKind::Level:

@@ -1,5 +1,6 @@
 // The tables of the documents against the tables of the code.
 
+#include "documentelements.h"
 #include "printmethods.h"
 #include "program.h"
 #include "temporaryhome.h"
@@ -47,20 +48,33 @@ QList<QStringList> tableOf(const QString &section)
     return rows.mid(2);
 }
 
-QStringList firstColumn(const QList<QStringList> &table)
+QList<QStringList> firstTwoColumns(const QList<QStringList> &table)
 {
-    QStringList column;
+    QList<QStringList> columns;
     for (const QStringList &row : table)
-        column += row.first();
-    return column;
+        columns += row.first(2);
+    return columns;
 }
 
-QStringList names(std::span<const vocabulary::Element> elements)
+/// What a table of the document says of an element's attributes.
+QString attributesCell(const vocabulary::Element &element)
 {
-    QStringList list;
+    if (element.name == vocabulary::customerElement.name)
+        return u"see [the customer](#the-customer)"_s;
+    QStringList names;
+    for (const vocabulary::Attribute &attribute : element.attributes)
+        names += attribute.name.isEmpty() ? u"any"_s : QString(attribute.name);
+    if (names.endsWith(u"any"_s) && names.size() > 1)
+        return names.first(names.indexOf(u"any"_s)).join(", "_L1) + ", then triples"_L1;
+    return names.isEmpty() ? u"none"_s : names.join(", "_L1);
+}
+
+QList<QStringList> elementsAndAttributes(std::span<const vocabulary::Element> elements)
+{
+    QList<QStringList> rows;
     for (const vocabulary::Element &element : elements)
-        list += element.name;
-    return list;
+        rows += QStringList{element.name, attributesCell(element)};
+    return rows;
 }
 
 } // namespace
@@ -113,22 +127,30 @@ private Q_SLOTS:
 
     void sections()
     {
-        QCOMPARE(firstColumn(tableOf(sectionOf(jobFormat, u"## Sections"_s))),
-                 names(vocabulary::sectionElements));
+        QCOMPARE(firstTwoColumns(tableOf(sectionOf(jobFormat, u"## Sections"_s))),
+                 elementsAndAttributes(vocabulary::sectionElements));
+    }
+
+    void theCustomer()
+    {
+        QList<QStringList> expected;
+        for (const vocabulary::Attribute &attribute : vocabulary::customerAttributes)
+            expected += QStringList{attribute.name, nameOfFlag(attribute.flag)};
+        QCOMPARE(firstTwoColumns(tableOf(sectionOf(jobFormat, u"### The customer"_s))), expected);
     }
 
     void elements_data()
     {
-        QTest::addColumn<QStringList>("expected");
+        QTest::addColumn<QList<QStringList>>("expected");
         for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
             if (!method.document.elements.empty())
-                QTest::addRow("%s", method.name.data()) << names(method.document.elements);
+                QTest::addRow("%s", method.name.data()) << elementsAndAttributes(method.document.elements);
         }
     }
     void elements()
     {
         const QString heading = u"### `%1`"_s.arg(QString::fromLatin1(QTest::currentDataTag()));
-        QTEST(firstColumn(tableOf(sectionOf(jobFormat, heading))), "expected");
+        QTEST(firstTwoColumns(tableOf(sectionOf(jobFormat, heading))), "expected");
     }
 
     void samples_data()
@@ -173,6 +195,27 @@ private Q_SLOTS:
             const bool prints = !method.document.elements.empty();
             QVERIFY2(section.contains("```xml\n"_L1) == prints, method.name.data());
         }
+    }
+
+    /// Or the fuzzer would have to guess them letter by letter.
+    void theFuzzersDictionaryHoldsTheVocabulary()
+    {
+        const QString dictionary = readDocument(u"tests/fuzz/job.dict"_s);
+        const auto holds = [&](const QString &entry) {
+            QVERIFY2(dictionary.contains(u'"' + entry + "\"\n"_L1), qPrintable(entry));
+        };
+        for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
+            holds(uR"(<method name=\"%1\"/>)"_s.arg(method.name));
+            for (const vocabulary::Element *element : elementsOf(method.document)) {
+                holds(u"<%1 "_s.arg(element->name));
+                for (const vocabulary::Attribute &attribute : element->attributes)
+                    holds(uR"( %1=\")"_s.arg(attribute.name.isEmpty() ? "name"_L1 : attribute.name));
+            }
+        }
+        for (const vocabulary::DocumentKind &kind : vocabulary::documentKinds)
+            holds(u"%1: { "_s.arg(kind.block));
+        for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings)
+            holds(u"%1 = "_s.arg(setting.name));
     }
 
     void everyExampleIsNamedAfterItsMethod()

@@ -26,3 +26,14 @@ inline const vocabulary::Element *elementOf(const vocabulary::Document &document
     }
     return nullptr;
 }
+
+/// The name of the setting that is kept in the member; "" for none.
+inline QString nameOfFlag(vocabulary::FlagMember flag)
+{
+    for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings) {
+        const auto *member = std::get_if<vocabulary::FlagMember>(&setting.member);
+        if (member && *member == flag)
+            return setting.name;
+    }
+    return {};
+}

@@ -62,16 +62,6 @@ QString keyOf(const PrintMethod &method, QLatin1StringView setting)
     return vocabulary::findDocumentKind(QString(method.kind))->path() + setting;
 }
 
-QString nameOfFlag(vocabulary::FlagMember flag)
-{
-    for (const DocumentSetting &setting : vocabulary::documentSettings) {
-        const auto *member = std::get_if<vocabulary::FlagMember>(&setting.member);
-        if (member && *member == flag)
-            return setting.name;
-    }
-    return {};
-}
-
 /// A printer with a configuration of its own.
 class HousePrinter : public CompanyPrinterDriver
 {
