@@ -148,7 +148,9 @@ QSqlDatabase *HLibrary::newDBConnection(const QString &connectionName)
 
 QString HLibrary::copyNumber(const QString &kind)
 {
-    return setting(documentPath(kind.toLower()) + vocabulary::copyNumberSetting);
+    // Obtained first: on standard output the configuration's own message comes before the one on the kind.
+    const PVConfiguration *configuration = SyncSingleton<PVConfiguration>::instance();
+    return configuration->getStrValue(documentPath(kind.toLower()) + vocabulary::copyNumberSetting);
 }
 
 QString HLibrary::truncateDecimal(double value)
