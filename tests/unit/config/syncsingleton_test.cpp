@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <barrier>
+#include <functional>
 #include <thread>
 #include <vector>
 
@@ -22,6 +23,37 @@ struct Counted
     }
 };
 
+struct Named
+{
+    int length() const { return 5; }
+};
+
+struct Slow
+{
+    int value = 0;
+    Slow()
+    {
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        value = 42;
+    }
+};
+
+/// Runs `work` in `count` threads that start together; each is told its number.
+void atOnce(int count, const std::function<void(int)> &work)
+{
+    std::barrier start(count);
+    std::vector<std::thread> threads;
+    threads.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        threads.emplace_back([&, i] {
+            start.arrive_and_wait();
+            work(i);
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+}
+
 } // namespace
 
 class SyncSingletonTest : public QObject
@@ -32,22 +64,37 @@ private Q_SLOTS:
     void manyThreadsConstructOnce()
     {
         constexpr int count = 64;
-        std::barrier start(count);
         std::vector<Counted *> seen(count);
         std::vector<int> values(count);
-        std::vector<std::thread> threads;
-        threads.reserve(count);
-        for (int i = 0; i < count; ++i) {
-            threads.emplace_back([&, i] {
-                start.arrive_and_wait();
-                seen[i] = SyncSingleton<Counted>::instance();
-                values[i] = seen[i]->value;
-            });
-        }
-        for (std::thread &thread : threads)
-            thread.join();
+        atOnce(count, [&](int i) {
+            seen[i] = SyncSingleton<Counted>::instance();
+            values[i] = seen[i]->value;
+        });
         QCOMPARE(constructions.load(), 1);
         QCOMPARE(seen, std::vector<Counted *>(count, SyncSingleton<Counted>::instance()));
+        QCOMPARE(values, std::vector<int>(count, 42));
+    }
+
+    /// The pattern of callers that do without `instance()`.
+    void callersReadThePointerThemselves()
+    {
+        QVERIFY(!SyncSingleton<Named>::instance_pointer);
+        if (SyncSingleton<Named>::instance_pointer == nullptr)
+            SyncSingleton<Named>::createInstance();
+        QCOMPARE(SyncSingleton<Named>::instance_pointer->length(), 5);
+        const Named *named = SyncSingleton<Named>::instance_pointer;
+        QCOMPARE(SyncSingleton<Named>::instance(), named);
+    }
+
+    void threadsThatReadThePointerFindTheFinishedObject()
+    {
+        constexpr int count = 8;
+        std::vector<int> values(count);
+        atOnce(count, [&](int i) {
+            if (!SyncSingleton<Slow>::instance_pointer)
+                SyncSingleton<Slow>::createInstance();
+            values[i] = SyncSingleton<Slow>::instance_pointer->value;
+        });
         QCOMPARE(values, std::vector<int>(count, 42));
     }
 
