@@ -90,7 +90,7 @@ void compile(int argc, char **argv)
     // cannot be opened, and is treated so.
     QFile input;
     JobSource source(&input);
-    JobPrinter printer(QByteArray(argv[2]), source);
+    JobPrinter printer(NativeFileName{argv[2]}, source);
     openInput(input, argv[1]);
     QXmlSimpleReader reader;
     reader.setContentHandler(&printer);

@@ -55,7 +55,9 @@ class JobPrinter : public CompanyPrinterDriver
 {
 public:
     /// `job` must outlive the printer.
-    JobPrinter(const QByteArray &fileName, JobSource &job) : CompanyPrinterDriver(fileName), source(job) {}
+    JobPrinter(const NativeFileName &fileName, JobSource &job) : CompanyPrinterDriver(fileName), source(job)
+    {
+    }
 
     bool startElement(const QString &namespaceUri, const QString &localName, const QString &qName,
                       const QXmlAttributes &attributes) override;

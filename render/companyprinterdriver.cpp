@@ -16,7 +16,7 @@ const QStringMatcher replacedWord(u"TOTALE");
 
 CompanyPrinterDriver::CompanyPrinterDriver(const QString &fileName) : PrinterDriver(fileName, false) {}
 
-CompanyPrinterDriver::CompanyPrinterDriver(const QByteArray &fileName) : PrinterDriver(fileName, false) {}
+CompanyPrinterDriver::CompanyPrinterDriver(const NativeFileName &fileName) : PrinterDriver(fileName, false) {}
 
 CompanyPrinterDriver::~CompanyPrinterDriver() = default;
 

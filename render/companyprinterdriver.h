@@ -21,7 +21,7 @@ public:
 
     /// Empties or makes the file at once.
     explicit CompanyPrinterDriver(const QString &fileName);
-    explicit CompanyPrinterDriver(const QByteArray &fileName);
+    explicit CompanyPrinterDriver(const NativeFileName &fileName);
     /// A line that was begun and not ended is dropped.
     ~CompanyPrinterDriver() override;
 

@@ -9,13 +9,13 @@
 using namespace Qt::Literals::StringLiterals;
 
 PrinterDriver::PrinterDriver(const QString &fileName, bool append)
-    : PrinterDriver(QFile::encodeName(fileName), append)
+    : PrinterDriver(NativeFileName{QFile::encodeName(fileName)}, append)
 {
 }
 
-PrinterDriver::PrinterDriver(const QByteArray &fileName, bool append)
-    : configuration(SyncSingleton<PVConfiguration>::instance()), outputName(fileName),
-      output(std::make_unique<LocaleOutput>(fileName, append)), justification(u"left"_s)
+PrinterDriver::PrinterDriver(const NativeFileName &fileName, bool append)
+    : configuration(SyncSingleton<PVConfiguration>::instance()), outputName(fileName.bytes),
+      output(std::make_unique<LocaleOutput>(fileName.bytes, append)), justification(u"left"_s)
 {
     if (output->isOpen())
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documentsettings.h"
+#include "nativefilename.h"
 
 #include <QString>
 #include <QXmlDefaultHandler>
@@ -45,8 +46,7 @@ public:
     /// Opens `fileName` for writing at once (emptied unless `append`). When that fails it says so in one line
     /// on standard output, and the job renders to nowhere.
     PrinterDriver(const QString &fileName, bool append);
-    /// The same with the bytes of the name as the system takes them, whatever encoding they are in.
-    PrinterDriver(const QByteArray &fileName, bool append);
+    PrinterDriver(const NativeFileName &fileName, bool append);
     PrinterDriver(const PrinterDriver &) = delete;
     PrinterDriver &operator=(const PrinterDriver &) = delete;
     /// Closes the output file. When not all of it could be written, says so in one line on standard error.

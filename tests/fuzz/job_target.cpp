@@ -59,7 +59,8 @@ bool wantsMilesOfPaper(const PVConfiguration &configuration)
 class FuzzPrinter : public JobPrinter
 {
 public:
-    FuzzPrinter(const QByteArray &fileName, JobSource &job, PVConfiguration &own) : JobPrinter(fileName, job)
+    FuzzPrinter(const NativeFileName &fileName, JobSource &job, PVConfiguration &own)
+        : JobPrinter(fileName, job)
     {
         configuration = &own;
     }
@@ -150,7 +151,7 @@ QByteArray render(QIODevice &job, PVConfiguration &configuration)
     bool documented = false;
     {
         JobSource source(&job);
-        FuzzPrinter printer(file.path().toUtf8(), source, configuration);
+        FuzzPrinter printer(NativeFileName{file.path().toUtf8()}, source, configuration);
         QXmlSimpleReader reader;
         reader.setContentHandler(&printer);
         reader.setDeclHandler(&printer);
