@@ -207,4 +207,16 @@
         <translation>Erstattung</translation>
     </message>
 </context>
+<context>
+    <name>HLibrary</name>
+    <message>
+        <source>PaperWindow</source>
+        <translatorcomment>The caption of the window that asks for a new sheet.</translatorcomment>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Insert a new sheet</source>
+        <translation>Bitte ein neues Blatt einlegen</translation>
+    </message>
+</context>
 </TS>

@@ -208,4 +208,16 @@
         <translation>Devolución</translation>
     </message>
 </context>
+<context>
+    <name>HLibrary</name>
+    <message>
+        <source>PaperWindow</source>
+        <translatorcomment>The caption of the window that asks for a new sheet.</translatorcomment>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Insert a new sheet</source>
+        <translation>Inserte una hoja nueva</translation>
+    </message>
+</context>
 </TS>

@@ -207,4 +207,16 @@
         <translation>Remboursement</translation>
     </message>
 </context>
+<context>
+    <name>HLibrary</name>
+    <message>
+        <source>PaperWindow</source>
+        <translatorcomment>The caption of the window that asks for a new sheet.</translatorcomment>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Insert a new sheet</source>
+        <translation>Insérez une nouvelle feuille</translation>
+    </message>
+</context>
 </TS>

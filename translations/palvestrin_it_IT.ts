@@ -210,4 +210,16 @@
         <translation>Rimborso</translation>
     </message>
 </context>
+<context>
+    <name>HLibrary</name>
+    <message>
+        <source>PaperWindow</source>
+        <translatorcomment>The caption of the window that asks for a new sheet.</translatorcomment>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Insert a new sheet</source>
+        <translation>Inserire un nuovo foglio</translation>
+    </message>
+</context>
 </TS>

@@ -30,8 +30,8 @@ public:
     /// be emptied before it is read.
     bool open()
     {
-        return !isSameFile(source.fileName(), target.fileName()) && source.open(QIODevice::ReadOnly) &&
-               target.open(QIODevice::WriteOnly);
+        return haveNames() && !isSameFile(source.fileName(), target.fileName()) &&
+               source.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly);
     }
     /// Also true after a read error. Looks at the next byte, because not every file tells its size.
     bool atEnd() { return source.peek(1).isEmpty(); }
@@ -46,6 +46,8 @@ public:
     }
 
 private:
+    /// Asked first because the toolkit complains about an empty name on standard error.
+    bool haveNames() const { return !source.fileName().isEmpty() && !target.fileName().isEmpty(); }
     /// Reads up to the end of the line or 127 bytes, whichever is less: the last byte ends the text.
     qint64 readPiece() { return source.readLine(piece.data(), piece.size()); }
 

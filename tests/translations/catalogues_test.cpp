@@ -75,6 +75,9 @@ constexpr LabelLimit labelLimits[] = {
     {"Fiscal Code:"_L1, 20},
     // A line of its own.
     {"CUSTOMER"_L1, 40},
+    // On the screen: the caption of a small window, and the sentence in it.
+    {"PaperWindow"_L1, 20},
+    {"Insert a new sheet"_L1, 40},
 };
 
 // The description of a statement of account, less one for its leader.
@@ -100,6 +103,14 @@ QSet<QString> sourcesOf(const QList<CatalogueEntry> &entries)
     for (const CatalogueEntry &entry : entries)
         sources += entry.source;
     return sources;
+}
+
+/// The texts of a catalogue in one of its two contexts: "QObject" for the paper, "HLibrary" for the screen.
+QSet<QString> sourcesIn(QLatin1StringView context, const QString &locale)
+{
+    QList<CatalogueEntry> entries = readCatalogue(sourcePath(locale));
+    entries.removeIf([&](const CatalogueEntry &entry) { return entry.context != context; });
+    return sourcesOf(entries);
 }
 
 qsizetype most(const QString &source)
@@ -149,6 +160,9 @@ private Q_SLOTS:
         QTest::newRow("line break") << u"tr(\n    \"CANCELLED DOC SUMMARY\")"_s << u"CANCELLED DOC SUMMARY"_s;
         QTest::newRow("table") << uR"({QT_TR_NOOP("Tax"), "tax"})"_s << u"Tax"_s;
         QTest::newRow("table with context") << uR"(QT_TRANSLATE_NOOP("QObject", "Cash: "))"_s << u"Cash: "_s;
+        QTest::newRow("call with context")
+            << uR"(QCoreApplication::translate("HLibrary", "Insert a new sheet"))"_s
+            << u"Insert a new sheet"_s;
         QTest::newRow("no literal") << uR"(tr(type); attr("date"); QLatin1String("name"))"_s << QString();
     }
 
@@ -184,9 +198,18 @@ private Q_SLOTS:
         QFETCH(QString, locale);
         const QSet<QString> labels = labelsInFolder(QStringLiteral(RENDER_SOURCES));
         QVERIFY2(labels.size() >= 30, "the scanner no longer finds the labels in " RENDER_SOURCES);
-        const QSet<QString> entries = sourcesOf(readCatalogue(sourcePath(locale)));
+        const QSet<QString> entries = sourcesIn("QObject"_L1, locale);
         QCOMPARE(sorted(labels - entries), QString());
         QCOMPARE(sorted(entries - labels - movementTypes()), QString());
+    }
+
+    void theRequestForANewSheetHasItsEntries_data() { addRowPerLocale(); }
+
+    void theRequestForANewSheetHasItsEntries()
+    {
+        QFETCH(QString, locale);
+        QCOMPARE(sorted(labelsInFolder(QStringLiteral(UTIL_SOURCES))), u"Insert a new sheet|PaperWindow"_s);
+        QCOMPARE(sorted(sourcesIn("HLibrary"_L1, locale)), u"Insert a new sheet|PaperWindow"_s);
     }
 
     void everyMovementTypeHasAnEntry_data() { addRowPerLocale(); }
@@ -206,10 +229,9 @@ private Q_SLOTS:
         const QList<CatalogueEntry> entries = readCatalogue(sourcePath(locale));
         QVERIFY(!entries.isEmpty());
         QCOMPARE(sourcesOf(entries).size(), entries.size());
-        for (const CatalogueEntry &entry : entries) {
+        QCOMPARE(sourcesIn("QObject"_L1, locale) + sourcesIn("HLibrary"_L1, locale), sourcesOf(entries));
+        for (const CatalogueEntry &entry : entries)
             QVERIFY2(entry.finished && !entry.translation.isEmpty(), qPrintable(entry.source));
-            QVERIFY2(entry.context == "QObject"_L1, qPrintable(entry.source));
-        }
     }
 
     void theBuiltCatalogueAnswersWithTheEntries_data() { addRowPerLocale(); }
@@ -221,7 +243,9 @@ private Q_SLOTS:
         QVERIFY(translator.load(QStringLiteral(BUILT_CATALOGUES "/palvestrin_") + locale));
         QCOMPARE(translator.language(), locale);
         for (const CatalogueEntry &entry : readCatalogue(sourcePath(locale)))
-            QCOMPARE(translator.translate("QObject", entry.source.toUtf8().constData()), entry.translation);
+            QCOMPARE(
+                translator.translate(entry.context.toUtf8().constData(), entry.source.toUtf8().constData()),
+                entry.translation);
     }
 
     void everyTranslationPrintsWhole_data()

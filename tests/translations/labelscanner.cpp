@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 QSet<QString> labelsInSource(const QString &text)
 {
     static const QRegularExpression marked(
-        uR"rx(\b(?:tr\(|QT_TR_NOOP\(|QT_TRANSLATE_NOOP\(\s*"QObject"\s*,)\s*"([^"\\]*)")rx"_s);
+        uR"rx(\b(?:tr\(|translate\(\s*"\w+"\s*,|QT_TR_NOOP\(|QT_TRANSLATE_NOOP\(\s*"QObject"\s*,)\s*"([^"\\]*)")rx"_s);
     QSet<QString> labels;
     for (auto matches = marked.globalMatch(text); matches.hasNext();)
         labels += matches.next().captured(1);

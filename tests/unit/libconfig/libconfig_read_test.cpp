@@ -178,10 +178,18 @@ private Q_SLOTS:
         QCOMPARE(lookupIn("<x:p k='v'>" + deep + "</x:p>", u"x:p.k"_s, u"xml"_s), QString());
     }
 
+    void aMissingXmlFileIsSilent_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("absent") << folder.filePath(u"absent.xml"_s);
+        QTest::newRow("no name") << QString();
+    }
     void aMissingXmlFileIsSilent()
     {
+        QFETCH(QString, name);
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
         CapturedOutput output;
-        const libconfig::Config config(folder.filePath(u"absent.xml"_s), u"xml"_s);
+        const libconfig::Config config(name, u"xml"_s);
         QCOMPARE(config.lookup(u"p.k"_s), QString());
         QCOMPARE(output.bytes(), QByteArray());
     }
