@@ -48,11 +48,12 @@ QSqlDatabase *addDatabase(const QString &driver, const QString &connectionName)
     return db->isValid() ? db : nullptr;
 }
 
-/// Whether `db` is a connection that cannot take a statement. The toolkit would warn on standard error,
-/// report no error, and for a handle that was emptied take the default connection.
-bool isClosed(const QSqlDatabase *db)
+/// The connection that `db` stands for: null is the default one, as it is, without an attempt to open it. Not
+/// valid when there is none.
+QSqlDatabase connectionOf(const QSqlDatabase *db)
 {
-    return db && !db->isOpen();
+    constexpr bool open = false;
+    return db ? *db : QSqlDatabase::database(QString::fromLatin1(QSqlDatabase::defaultConnection), open);
 }
 
 /// The toolkit's own text of a value, but for fractions: it would give them 17 digits.
@@ -168,7 +169,7 @@ int DatabaseManager::executeQuery(const QString &sql, QSqlDatabase *db)
 void DatabaseManager::begin(QSqlDatabase *db)
 {
     if (db) {
-        if (!isClosed(db))
+        if (db->isOpen()) // the toolkit would warn on standard error, here and in the next two
             db->transaction();
     } else {
         executeQuery(u"BEGIN"_s, nullptr);
@@ -179,7 +180,7 @@ void DatabaseManager::begin(QSqlDatabase *db)
 void DatabaseManager::commit(QSqlDatabase *db)
 {
     if (db) {
-        if (!isClosed(db))
+        if (db->isOpen())
             db->commit();
     } else {
         executeQuery(u"COMMIT"_s, nullptr);
@@ -190,7 +191,7 @@ void DatabaseManager::commit(QSqlDatabase *db)
 void DatabaseManager::rollback(QSqlDatabase *db)
 {
     if (db) {
-        if (!isClosed(db))
+        if (db->isOpen())
             db->rollback();
     } else {
         executeQuery(u"ROLLBACK"_s, nullptr);
@@ -277,12 +278,15 @@ void DatabaseManager::showFailure(const QString &method, const QString &object, 
 /// Runs one statement and logs it.
 QSqlQuery DatabaseManager::run(const QString &method, const QString &sql, QSqlDatabase *db)
 {
-    if (isClosed(db)) {
+    const QSqlDatabase connection = connectionOf(db);
+    // The toolkit would warn on standard error, report no error, and for a handle that was emptied take the
+    // default connection.
+    if (!connection.isOpen()) {
         showQuery(method, sql, -1);
         showFailure(method, u"query: "_s + sql, u"not run: connection closed"_s);
-        return QSqlQuery(*db);
+        return QSqlQuery(connection);
     }
-    QSqlQuery query(sql, db ? *db : QSqlDatabase());
+    QSqlQuery query(sql, connection);
     showQueryError(method, query);
     return query;
 }

@@ -76,6 +76,7 @@ private Q_SLOTS:
         QCOMPARE(manager.safeNewRecord(u"orders"_s, db), u"Error"_s);
         manager.begin(db);
         manager.rollback(db);
+        QCOMPARE(manager.executeQuery(u"select 1"_s, nullptr), -1);
         QVERIFY(!SyncSingleton<HLogManager>::instance()->getLog(QString()));
         QCOMPARE(output.bytes(), QByteArray());
     }

@@ -5,6 +5,7 @@
 #include "logtext.h"
 #include "temporarypostgres.h"
 
+#include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlDriver>
 #include <QSqlField>
@@ -593,10 +594,55 @@ private Q_SLOTS:
         *connect(QString()) = QSqlDatabase();
         QSqlDatabase::removeDatabase(QString::fromLatin1(QSqlDatabase::defaultConnection));
         log();
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
         QCOMPARE(manager->executeSelectQuery(u"select 1"_s, nullptr), u""_s);
-        QCOMPARE(log(), failureLines(u"executeSelectQuery(...)"_s, u""_s, u"Driver not loaded"_s));
+        QCOMPARE(log(), notRunLines(u"executeSelectQuery(...)"_s, u"select 1"_s));
         manager->rollback(nullptr);
-        QCOMPARE(log(), failureLines(u"executeQuery(...)"_s, u""_s, u"Driver not loaded"_s) + text(rollback));
+        QCOMPARE(log(), notRunLines(u"executeQuery(...)"_s, u"ROLLBACK"_s) + text(rollback));
+    }
+
+    void aClosedDefaultConnectionIsLogged()
+    {
+        connect(QString())->close();
+        log();
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
+        QCOMPARE(manager->numRecords(u"menu"_s, u"true"_s, nullptr), -1);
+        QCOMPARE(log(), notRunLines(u"DatabaseManager::existRecord(...)"_s,
+                                    u"select count(*) from menu where true"_s));
+        QCOMPARE(manager->safeNewRecord(u"orders"_s, nullptr), u"Error"_s);
+        QCOMPARE(
+            log(),
+            notRunLines(u"executeQuery(...)"_s, u"BEGIN"_s) + text(begin) +
+                notRunLines(u"newRecord"_s, u"insert into orders values(default)"_s) +
+                notRunLines(u"getLastId"_s, u"select max(ID) from orders"_s) +
+                u"[time] ERROR: getLastId( orders ): select max(ID) from orders return empty result\n"_s +
+                notRunLines(u"executeQuery(...)"_s, u"COMMIT"_s) + text(commit));
+        QVERIFY(
+            !QSqlDatabase::database(QString::fromLatin1(QSqlDatabase::defaultConnection), false).isOpen());
+    }
+
+    void aDatabaseThatIsDownAtStartIsLogged()
+    {
+        QVERIFY(!manager->createConnection(u"QPSQL7"_s, server.database(), server.user(), server.password(),
+                                           u"/no/such/folder"_s, QString()));
+        QVERIFY(log().startsWith(u"[time] ERROR: Failed to open database: QPSQL: Unable to connect\n"_s));
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
+        QCOMPARE(manager->getField(u"menu"_s, u"name"_s, u"1"_s, nullptr), u""_s);
+        QCOMPARE(log(),
+                 notRunLines(u"DatabaseManager::getField(...)"_s, u"select name from menu where id = 1"_s));
+    }
+
+    void aDefaultConnectionThatWasLost()
+    {
+        const QString pid = manager->executeSelectQuery(u"select pg_backend_pid()"_s, nullptr);
+        QCOMPARE(manager->executeSelectQuery(u"select pg_terminate_backend("_s + pid + u", 5000)"_s, db),
+                 u"true"_s);
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
+        QVERIFY(!manager->existRecord(u"menu"_s, u"1"_s, nullptr)); // tells the toolkit
+        log();
+        QVERIFY(!manager->existRecord(u"menu"_s, u"1"_s, nullptr));
+        QCOMPARE(log(),
+                 notRunLines(u"DatabaseManager::existRecord(...)"_s, u"select * from menu where ID = 1"_s));
     }
 };
 
