@@ -2,17 +2,22 @@
 
 #include "logger.h"
 
+#include <QMutexLocker>
+
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Loggers that another one of their name has replaced. Never freed: their users may log until the very end.
-std::vector<Logger *> &replacedLoggers()
+/// Keeps a logger that another one of its name has replaced. Never freed: its users may log until the very
+/// end.
+void keepUntilTheEnd(Logger *replaced)
 {
+    static QMutex mutex;
     static auto *const loggers = new std::vector<Logger *>;
-    return *loggers;
+    const QMutexLocker lock(&mutex);
+    loggers->push_back(replaced);
 }
 
 } // namespace
@@ -26,14 +31,17 @@ HLogManager::~HLogManager()
 
 void HLogManager::set(const QString &loggerArg, const QString &name)
 {
+    auto *made = new Logger(loggerArg);
+    const QMutexLocker lock(&mutex);
     Logger *&entry = loggers[name.isEmpty() ? u"default"_s : name];
     if (entry)
-        replacedLoggers().push_back(entry);
-    entry = new Logger(loggerArg);
+        keepUntilTheEnd(entry);
+    entry = made;
 }
 
 Logger *HLogManager::getLog(const QString &name)
 {
+    const QMutexLocker lock(&mutex);
     if (name.isEmpty())
         return loggers[u"default"_s]; // adds an empty entry when there is none
     return loggers.value(name);

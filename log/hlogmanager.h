@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QMap>
+#include <QMutex>
 #include <QString>
 
 class Logger;
 
-/// The process's loggers by name. Reached through `SyncSingleton<HLogManager>::instance()`, which creates it
-/// safely; its own operations are not thread-safe.
+/// The process's loggers by name. Reached through `SyncSingleton<HLogManager>::instance()`. Threads may share
+/// it.
 class HLogManager
 {
 public:
@@ -23,5 +24,6 @@ public:
     Logger *getLog(const QString &name);
 
 private:
+    QMutex mutex; ///< guards the names
     QMap<QString, Logger *> loggers;
 };

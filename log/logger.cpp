@@ -4,6 +4,7 @@
 #include "pvconfiguration.h"
 
 #include <QDateTime>
+#include <QMutexLocker>
 
 #include <algorithm>
 #include <iostream>
@@ -38,6 +39,7 @@ void Logger::setLevel(const QString &value)
 {
     const auto found = std::ranges::find(vocabulary::logLevels, value.toUpper());
     const bool isKnown = found != std::end(vocabulary::logLevels);
+    const QMutexLocker lock(&mutex);
     level = isKnown ? static_cast<Level>(found - std::begin(vocabulary::logLevels)) : DEBUG;
 }
 
@@ -52,6 +54,7 @@ void Logger::setType(const QString &value)
     } else {
         return;
     }
+    const QMutexLocker lock(&mutex);
     // Asked first because the toolkit warns on standard error about opening twice.
     if (file->isOpen() || !file->open(mode))
         std::cout << "Error in the method Logger::setType(" << qPrintable(value) << ")" << std::endl;
@@ -59,6 +62,7 @@ void Logger::setType(const QString &value)
 
 void Logger::write(Level lvl, const QString &message)
 {
+    const QMutexLocker lock(&mutex);
     // The toolkit warns on standard error about writing to a closed file.
     if (level > lvl || !file->isOpen())
         return;

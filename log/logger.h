@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFile>
+#include <QMutex>
 #include <QString>
 #include <QTextStream>
 
@@ -11,8 +12,10 @@
 ///     [03-07-2007 18:42:05:093] ERROR: relation "orders" does not exist
 ///
 /// A log file that cannot be opened is reported in one line on standard output; after that the logger stays
-/// usable and its lines are lost without a word. Not thread-safe, and two loggers on one file do not wait for
-/// each other.
+/// usable and its lines are lost without a word.
+///
+/// Threads may share a logger: every line is written whole, in whatever order they come. Two loggers on one
+/// file do not wait for each other.
 class Logger
 {
 public:
@@ -43,6 +46,7 @@ public:
     void fatal(const QString &message);
 
 private:
+    QMutex mutex; ///< guards everything below
     std::unique_ptr<QFile> file;
     std::unique_ptr<QTextStream> stream;
     Level level = DEBUG;

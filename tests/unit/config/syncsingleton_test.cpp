@@ -1,10 +1,9 @@
 #include "syncsingleton.h"
+#include "threads.h"
 
 #include <QTest>
 
 #include <atomic>
-#include <barrier>
-#include <functional>
 #include <thread>
 #include <vector>
 
@@ -38,22 +37,6 @@ struct Slow
     }
 };
 
-/// Runs `work` in `count` threads that start together; each is told its number.
-void atOnce(int count, const std::function<void(int)> &work)
-{
-    std::barrier start(count);
-    std::vector<std::thread> threads;
-    threads.reserve(count);
-    for (int i = 0; i < count; ++i) {
-        threads.emplace_back([&, i] {
-            start.arrive_and_wait();
-            work(i);
-        });
-    }
-    for (std::thread &thread : threads)
-        thread.join();
-}
-
 } // namespace
 
 class SyncSingletonTest : public QObject
@@ -66,7 +49,7 @@ private Q_SLOTS:
         constexpr int count = 64;
         std::vector<Counted *> seen(count);
         std::vector<int> values(count);
-        atOnce(count, [&](int i) {
+        runAtOnce(count, [&](int i) {
             seen[i] = SyncSingleton<Counted>::instance();
             values[i] = seen[i]->value;
         });
@@ -90,7 +73,7 @@ private Q_SLOTS:
     {
         constexpr int count = 8;
         std::vector<int> values(count);
-        atOnce(count, [&](int i) {
+        runAtOnce(count, [&](int i) {
             if (!SyncSingleton<Slow>::instance_pointer)
                 SyncSingleton<Slow>::createInstance();
             values[i] = SyncSingleton<Slow>::instance_pointer->value;

@@ -4,6 +4,7 @@
 #include "logger.h"
 #include "logtext.h"
 #include "temporarypostgres.h"
+#include "threads.h"
 
 #include <QRegularExpression>
 #include <QSqlDatabase>
@@ -517,6 +518,24 @@ private Q_SLOTS:
                         "[time] ERROR: ERROR:  column \"colour\" does not exist\n"
                         "LINE 1: SELECT \"id\", \"name\", \"price\" FROM \"menu\" WHERE colour = 1\n"
                         "                                                       ^\n(42703)\n"_s);
+    }
+
+    // Threads
+
+    void threadsWithConnectionsOfTheirOwnShareTheLog()
+    {
+        constexpr int threads = 4;
+        constexpr int queries = 50;
+        runAtOnce(threads, [&](int thread) {
+            QSqlDatabase *own = connect(u"thread %1"_s.arg(thread));
+            for (int i = 0; own && i < queries; ++i)
+                manager->executeSelectQuery(u"select nonsense"_s, own);
+        });
+        const QString lines = log();
+        QCOMPARE(lines.count(u"[time] DEBUG: Connection With postgres DB established\n"_s), threads);
+        QCOMPARE(lines.count(u"[time] ERROR: Error in the method executeSelectQuery(...), to query: "
+                             "select nonsense\n"_s),
+                 threads * queries);
     }
 
     // Lost connections

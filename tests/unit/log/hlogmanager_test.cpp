@@ -2,8 +2,11 @@
 #include "hlogmanager.h"
 #include "logger.h"
 #include "logtext.h"
+#include "threads.h"
 
 #include <QTest>
+
+#include <atomic>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,7 +34,7 @@ private:
     const ConfiguredHome home{};
 
 private Q_SLOTS:
-    void initTestCase() { home.configureLog("INFO", "APPEND"); }
+    void init() { home.configureLog("INFO", "APPEND"); }
 
     void anEmptyManagerHasNoLoggers()
     {
@@ -78,6 +81,28 @@ private Q_SLOTS:
         }
         QCOMPARE(openFiles(home.logPath()), before + 1);
         QCOMPARE(logText(home.logPath()), u"[time] INFO: first\n[time] INFO: second\n"_s);
+    }
+
+    void threadsMayShareAManager()
+    {
+        constexpr int threads = 4;
+        constexpr int names = 500;
+        home.configureLog("INFO", ""); // so many loggers had better open no file
+        HLogManager manager;
+        std::atomic<int> missing = 0;
+        runAtOnce(threads, [&](int thread) {
+            for (int i = 0; i < names; ++i) {
+                const QString name = u"%1 of thread %2"_s.arg(i).arg(thread);
+                manager.set(QString(), name);
+                manager.set(QString(), u"shared"_s);
+                manager.getLog(QString());
+                missing += !manager.getLog(name) + !manager.getLog(u"shared"_s);
+            }
+        });
+        QCOMPARE(missing.load(), 0);
+        for (int i = 0; i < threads * names; ++i)
+            QVERIFY(manager.getLog(u"%1 of thread %2"_s.arg(i / threads).arg(i % threads)));
+        QVERIFY(!manager.getLog(QString()));
     }
 
     void theManagerDeletesItsLoggers()

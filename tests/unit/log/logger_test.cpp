@@ -2,6 +2,7 @@
 #include "configuredhome.h"
 #include "logger.h"
 #include "logtext.h"
+#include "threads.h"
 
 #include <QDateTime>
 #include <QProcess>
@@ -271,6 +272,47 @@ private Q_SLOTS:
         }
         logger.info(u"room"_s);
         QVERIFY2(log().endsWith(u"[time] INFO: room\n"_s), qPrintable(log()));
+    }
+
+    /// In no particular order, but each of them whole.
+    void threadsThatShareALoggerLoseNoLine()
+    {
+        constexpr int threads = 4;
+        constexpr int lines = 500;
+        home.configureLog("INFO", "APPEND");
+        Logger logger(u"shared"_s);
+        runAtOnce(threads, [&](int thread) {
+            for (int line = 0; line < lines; ++line)
+                logger.info(u"thread %1, line %2"_s.arg(thread).arg(line));
+        });
+
+        QStringList expected;
+        for (int thread = 0; thread < threads; ++thread) {
+            for (int line = 0; line < lines; ++line)
+                expected << u"[time] INFO: thread %1, line %2"_s.arg(thread).arg(line);
+        }
+        expected << QString(); // behind the last line's end
+        QStringList written = log().split(u'\n');
+        written.sort();
+        expected.sort();
+        QCOMPARE(written, expected);
+    }
+
+    void threadsMayOpenAndSetASharedLogger()
+    {
+        constexpr int threads = 4;
+        home.configureLog("INFO", "");
+        Logger logger(u"shared"_s);
+        const CapturedOutput output;
+        runAtOnce(threads, [&](int) {
+            logger.setType(u"APPEND"_s);
+            for (int i = 0; i < 100; ++i) {
+                logger.setLevel(i % 2 ? u"ERROR"_s : u"INFO"_s);
+                logger.error(u"kept"_s);
+            }
+        });
+        QCOMPARE(output.bytes(), QByteArray("Error in the method Logger::setType(APPEND)\n").repeated(3));
+        QCOMPARE(log(), u"[time] ERROR: kept\n"_s.repeated(400));
     }
 
     void anotherProcessSeesTheLine()
