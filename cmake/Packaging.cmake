@@ -1,6 +1,5 @@
 # What is installed beside the programs, and the three Debian packages: palvestrin-print for a machine that prints,
-# palvestrin-tools for people on the command line, palvestrin-desktop for people with a screen and for the rare start
-# of the renderer that carries a toolkit option.
+# palvestrin-tools for people on the command line, palvestrin-desktop for people with a screen.
 #
 #   cpack --config build/release/CPackConfig.cmake
 

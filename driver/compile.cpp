@@ -1,10 +1,11 @@
 #include "compile.h"
 
-#include "application.h"
 #include "applicationkeys.h"
 #include "jobreader.h"
 #include "pvconfiguration.h"
+#include "toolkitoptions.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
 #include <QTranslator>
@@ -75,19 +76,15 @@ void compile(int argc, char **argv)
     qInstallMessageHandler(tellOnlyFatalMessages);
     occupyStandardStreams();
     ignoreWriteSignals();
-    const auto application = newApplication(argc, argv);
-    if (!application) {
-        std::cerr << "palvestrin-print: words that begin with \"-\" need the package palvestrin-desktop"
-                  << std::endl;
-        return;
-    }
+    dropToolkitOptions(argc, argv);
+    const QCoreApplication application(argc, argv);
 
     QTranslator translator;
     loadCatalogue(translator, *SyncSingleton<PVConfiguration>::instance());
     QCoreApplication::installTranslator(&translator);
 
-    // The places that are left when the toolkit has consumed its options, which may be null: such a file
-    // cannot be opened, and is treated so.
+    // The first two places, whatever the options have left there. A place may be null: such a file cannot be
+    // opened, and is treated so.
     QFile input;
     JobSource source(&input);
     JobPrinter printer(NativeFileName{argv[2]}, source);

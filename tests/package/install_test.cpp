@@ -39,7 +39,6 @@ private Q_SLOTS:
               "share/doc/palvestrin-print/examples/jobs/printFullOrderReceipt.xml",
               "share/doc/palvestrin-print/examples/home/.palvestrin/conf/palvestrin.conf"})
             QTest::newRow(file) << QString::fromLatin1(file);
-        QTest::newRow("the module") << QStringLiteral(MODULE_FOLDER "/libpalvestrin-guiapplication.so");
     }
     void everyFileIsThere()
     {

@@ -17,11 +17,11 @@ inline void verifyPrintsInItalian(const QString &prefix)
               R"(<job><method name="printFullOrderReceipt"/><receipt serialnumber="7"/></job>)");
     const QString program = prefix + QStringLiteral("/bin/palvestrin-print");
     const QStringList environment = {QStringLiteral("HOME=") + home.path(),
-                                     QStringLiteral("LC_ALL=it_IT.UTF-8"),
-                                     QStringLiteral("XDG_RUNTIME_DIR=") + home.path()};
+                                     QStringLiteral("LC_ALL=it_IT.UTF-8")};
     const QByteArray paper = "\nj\n\" Ricevuta n.: 7\"@\n\"====================\"@\nJ\n";
     const QList<QStringList> starts = {
         {QStringLiteral("job.xml"), QStringLiteral("out")},
+        {QStringLiteral("job.xml"), QStringLiteral("out"), QStringLiteral("-third")},
         {QStringLiteral("-reverse"), QStringLiteral("job.xml"), QStringLiteral("out")}};
     for (const QStringList &words : starts) {
         const ProgramRun run = runProgram(program, words, environment, home.path());
