@@ -3,11 +3,11 @@
 #include "applicationkeys.h"
 #include "jobreader.h"
 #include "pvconfiguration.h"
+#include "runlocale.h"
 #include "toolkitoptions.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QLocale>
 #include <QTranslator>
 #include <QXmlSimpleReader>
 
@@ -51,7 +51,7 @@ void loadCatalogue(QTranslator &translator, const PVConfiguration &configuration
     const QString basedir = configuration.getStrValue(applicationkey::languageBaseDir);
     const QString file = configuration.getStrValue(applicationkey::languageFile);
     if (file == "/"_L1) // the marker for a catalogue named after the locale
-        (void)translator.load(basedir + "/palvestrin_"_L1 + QLocale::system().name(), u"."_s);
+        (void)translator.load(basedir + "/palvestrin_"_L1 + runlocale::name(), u"."_s);
     else
         (void)translator.load(basedir + file);
 }

@@ -1,26 +1,14 @@
 #include "localeencoding.h"
 
-#include <QTextCodec>
+#include "runlocale.h"
 
-#include <clocale>
-#include <langinfo.h>
-#include <locale.h>
+#include <QTextCodec>
 
 namespace {
 
-QByteArray codesetOfEnvironment()
+QTextCodec *codecOfTheRun()
 {
-    const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
-    if (!locale)
-        return {};
-    const QByteArray codeset = nl_langinfo_l(CODESET, locale);
-    freelocale(locale);
-    return codeset;
-}
-
-QTextCodec *codecOfEnvironment()
-{
-    const QByteArray codeset = codesetOfEnvironment();
+    const QByteArray codeset = runlocale::codeset();
     // What the C library calls the POSIX locale's encoding.
     QTextCodec *codec = codeset == "ANSI_X3.4-1968" ? nullptr : QTextCodec::codecForName(codeset);
     return codec ? codec : QTextCodec::codecForName("UTF-8");
@@ -28,7 +16,7 @@ QTextCodec *codecOfEnvironment()
 
 } // namespace
 
-LocaleEncoding::LocaleEncoding() : codec(codecOfEnvironment()) {}
+LocaleEncoding::LocaleEncoding() : codec(codecOfTheRun()) {}
 
 QByteArray LocaleEncoding::encode(const QString &text) const
 {

@@ -5,12 +5,11 @@
 
 class QTextCodec;
 
-/// The character encoding of the locale in which the program was started (LC_ALL, LC_CTYPE, LANG).
+/// The character encoding of the locale of the run (see runlocale.h).
 ///
 /// The ordering application starts the renderer in the printer's locale, for instance it_IT.ISO-8859-15. The
-/// toolkit itself is UTF-8 whatever the locale says, so the name is asked of the C library, by a look at the
-/// environment that does not depend on which locale the process has switched to since. POSIX locales, locales
-/// that are not installed and encodings that the toolkit does not know count as UTF-8.
+/// toolkit itself is UTF-8 whatever the locale says, so the encoding is asked of the C library. POSIX
+/// locales, locales that are not installed and encodings that the toolkit does not know count as UTF-8.
 class LocaleEncoding
 {
 public:

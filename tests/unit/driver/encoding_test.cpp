@@ -43,10 +43,10 @@ private:
     const TemporaryHome home;
     const QString locales = home.filePath(u"locales"_s);
 
-    void makeLocale(const QString &source, const QString &charmap)
+    void makeLocale(const QString &source, const QString &charmap, const QString &modifier = {})
     {
         QVERIFY(QDir().mkpath(locales));
-        const QString folder = locales + u'/' + source + u'.' + charmap;
+        const QString folder = locales + u'/' + source + u'.' + charmap + modifier;
         QProcess localedef;
         localedef.start(u"localedef"_s, {u"-i"_s, source, u"-f"_s, charmap, folder});
         QVERIFY(localedef.waitForFinished());
@@ -78,6 +78,7 @@ private Q_SLOTS:
         makeLocale(u"ja_JP"_s, u"EUC-JP"_s);
         makeLocale(u"fr_FR"_s, u"ISO-8859-15"_s);
         makeLocale(u"de_DE"_s, u"UTF-8"_s);
+        makeLocale(u"it_IT"_s, u"ISO-8859-15"_s, u"@euro"_s);
     }
 
     void init() { home.configure("palvestrin: { };"); }
@@ -155,6 +156,53 @@ private Q_SLOTS:
         const ProgramRun result = print(job.toUtf8(), u"out"_s, {u"LC_ALL="_s + locale});
         QCOMPARE(result.standardOutput + result.standardError, QByteArray());
         QTEST(read(u"out"_s), "bytes");
+    }
+
+    /// The label of a receipt's number, and an e with an accent.
+    void oneLocaleDecidesTheWordsAndTheBytes_data()
+    {
+        QTest::addColumn<QStringList>("environment");
+        QTest::addColumn<QByteArray>("line");
+        const QByteArray italian = "Ricevuta n.: \xc3\xa8";
+        const QByteArray italianInLatin9 = "Ricevuta n.: \xe8";
+        const QByteArray english = "Serial Number: \xc3\xa8";
+        QTest::newRow("LANGUAGE decides nothing")
+            << QStringList{u"LANGUAGE=de:fr"_s, u"LC_ALL=it_IT.UTF-8"_s} << italian;
+        QTest::newRow("LANGUAGE alone decides nothing") << QStringList{u"LANGUAGE=it"_s} << english;
+        QTest::newRow("LC_MESSAGES decides nothing")
+            << QStringList{u"LC_MESSAGES=de_DE.UTF-8"_s, u"LANG=it_IT.UTF-8"_s} << italian;
+        QTest::newRow("LC_MESSAGES alone decides nothing")
+            << QStringList{u"LC_MESSAGES=it_IT.UTF-8"_s} << english;
+        QTest::newRow("LC_ALL before LC_CTYPE")
+            << QStringList{u"LC_CTYPE=de_DE.UTF-8"_s, u"LC_ALL=it_IT.ISO-8859-15"_s} << italianInLatin9;
+        QTest::newRow("LC_CTYPE before LANG")
+            << QStringList{u"LANG=de_DE.UTF-8"_s, u"LC_CTYPE=it_IT.ISO-8859-15"_s} << italianInLatin9;
+        QTest::newRow("LC_CTYPE alone") << QStringList{u"LC_CTYPE=it_IT.ISO-8859-15"_s} << italianInLatin9;
+        QTest::newRow("LANG alone") << QStringList{u"LANG=it_IT.UTF-8"_s} << italian;
+        QTest::newRow("an empty one is none")
+            << QStringList{u"LC_ALL="_s, u"LC_CTYPE="_s, u"LANG=it_IT.ISO-8859-15"_s} << italianInLatin9;
+        QTest::newRow("with a modifier")
+            << QStringList{u"LC_ALL=it_IT.ISO-8859-15@euro"_s} << italianInLatin9;
+        QTest::newRow("not installed") << QStringList{u"LC_ALL=it_CH.ISO-8859-1@euro"_s} << italian;
+        QTest::newRow("a language without a country") << QStringList{u"LC_ALL=it"_s} << italian;
+        QTest::newRow("C before LANG") << QStringList{u"LC_ALL=C"_s, u"LANG=it_IT.UTF-8"_s} << english;
+        QTest::newRow("C with an encoding")
+            << QStringList{u"LC_CTYPE=C.UTF-8"_s, u"LANG=it_IT.UTF-8"_s} << english;
+        QTest::newRow("POSIX") << QStringList{u"LC_ALL=POSIX"_s, u"LANGUAGE=it"_s} << english;
+        QTest::newRow("no locale's name") << QStringList{u"LC_ALL=../it_IT.UTF-8"_s} << english;
+        QTest::newRow("none") << QStringList{} << english;
+    }
+    void oneLocaleDecidesTheWordsAndTheBytes()
+    {
+        QFETCH(const QStringList, environment);
+        QFETCH(const QByteArray, line);
+        home.configure("palvestrin: { language: { basedir = " CATALOGUE_FOLDER "; file = /; };"
+                       " receiptdoc: { paperWidth = 1; }; };");
+        const QByteArray job =
+            "<job><method name=\"printFullOrderReceipt\"/><receipt serialnumber=\"\xc3\xa8\"/></job>";
+        const ProgramRun result = print(job, u"out"_s, environment);
+        QCOMPARE(result.failure + QString::fromUtf8(result.standardOutput + result.standardError), QString());
+        QCOMPARE(read(u"out"_s), "\nj\n\" " + line + "\"@\n\"=\"@\nJ\n");
     }
 
     void theLastVariableOfTheStandardDecides()
