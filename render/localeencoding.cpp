@@ -22,3 +22,8 @@ QByteArray LocaleEncoding::encode(const QString &text) const
 {
     return codec->fromUnicode(text);
 }
+
+QString LocaleEncoding::decode(const QByteArray &bytes) const
+{
+    return codec->toUnicode(bytes);
+}

@@ -18,6 +18,9 @@ public:
     /// `text` as bytes; a character that the encoding lacks becomes one '?'.
     QByteArray encode(const QString &text) const;
 
+    /// `bytes` as text; what is no character of the encoding becomes U+FFFD.
+    QString decode(const QByteArray &bytes) const;
+
 private:
     QTextCodec *codec; ///< owned by the toolkit
 };

@@ -2,11 +2,9 @@
 
 #include "companyprinterdriver.h"
 #include "printmethods.h"
+#include "spelling.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <numeric>
-#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -52,25 +50,6 @@ std::vector<Key> expandedTables()
     return keys;
 }
 
-/// How many characters must be put in, taken out or changed to make one text of the other; `limit` when it is
-/// that many or more.
-qsizetype editDistance(QStringView from, QStringView to, qsizetype limit)
-{
-    if (std::abs(from.size() - to.size()) >= limit)
-        return limit;
-    std::vector<qsizetype> row(to.size() + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (qsizetype i = 0; i < from.size(); ++i) {
-        qsizetype diagonal = std::exchange(row[0], i + 1);
-        for (qsizetype j = 0; j < to.size(); ++j) {
-            const qsizetype changed = diagonal + (from[i] != to[j]);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({changed, row[j] + 1, diagonal + 1});
-        }
-    }
-    return std::min(row.back(), limit);
-}
-
 bool isOneOf(const QString &value, ValueKind kind)
 {
     return std::ranges::find(vocabulary::wordsOf(kind), value) != vocabulary::wordsOf(kind).end();
@@ -107,21 +86,13 @@ const Key *find(const QString &name)
 
 QString closest(const QString &name)
 {
-    // A third of the letters wrong is a slip; more is another word.
-    qsizetype least = std::max<qsizetype>(2, name.size() / 3);
-    const QString lowered = name.toLower();
-    QString nearest;
+    QStringList names;
     for (const Key &key : all()) {
-        const QString known = key.name.toLower();
-        if (known.endsWith(u'.' + lowered)) // only the way to the setting is left out: "paperWidth"
+        if (key.name.endsWith(u'.' + name, Qt::CaseInsensitive)) // only the way to the setting is left out
             return key.name;
-        const qsizetype distance = editDistance(lowered, known, least);
-        if (distance < least) {
-            least = distance;
-            nearest = key.name;
-        }
+        names += key.name;
     }
-    return nearest;
+    return nearestWord(name, names);
 }
 
 QString effectiveValue(const Key &key, const QString &value)

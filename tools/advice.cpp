@@ -1,10 +1,8 @@
 #include "advice.h"
 
-#include "command.h"
+#include "terminal.h"
 
 #include <QRegularExpression>
-
-#include <iostream>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -12,8 +10,7 @@ namespace {
 
 void printNoteAt(const QString &file, libconfig::Position at, const QString &text)
 {
-    const QString place = u"%1:%2:%3"_s.arg(file).arg(at.line).arg(at.column);
-    std::cerr << (place + u": note: "_s + text + u'\n').toStdString();
+    printNote(u"%1:%2:%3"_s.arg(file).arg(at.line).arg(at.column), text);
 }
 
 } // namespace

@@ -2,56 +2,71 @@
 
 #include "exitcode.h"
 
-#include <QCommandLineOption>
-#include <QCommandLineParser>
 #include <QLatin1StringView>
-#include <QStringList>
+#include <QList>
+#include <QString>
 
 #include <span>
 
-/// One word that may follow `palvestrin`, or a command of it. A new command is one source file with one such
-/// operation, and one row in the table of its program (palvestrin.cpp, config.cpp).
+/// The commands of `palvestrin` as tables. Name, options and plain arguments of a command stand once;
+/// dispatch, parse, usage errors, "--help", the Tab key and the tests read them here.
+
+class CommandLine;
+
+/// A word that the Tab key puts in the place of one that was begun.
+struct Offer
+{
+    QString word;
+    QString meaning;
+};
+
+/// A word that whoever types fills in.
+struct Argument
+{
+    QLatin1StringView name; ///< as the usage line shows it: "FILE"; "xml|cfg" takes one of these words
+    /// What fits behind the words of `before` and in the place of `begun`; null where nobody can guess.
+    QList<Offer> (*offers)(const CommandLine &before, const QString &begun) = nullptr;
+    bool isAnyText = false; ///< takes a word that looks like an option, too
+};
+
+struct Option
+{
+    QLatin1StringView name; ///< behind two dashes
+    QLatin1StringView meaning;
+    const Argument *argument = nullptr; ///< what follows it
+    bool isRequired = false;
+    char letter = 0; ///< the short form, behind one dash
+};
+
+/// A plain argument. Only the last one of a command may be missing or come more than once.
+struct Operand
+{
+    enum Count { One, AtMostOne, OneOrMore, Any };
+
+    const Argument *argument;
+    Count count = One;
+};
+
+/// One word that may follow `palvestrin` or a command of it: either has `run`, or `commands` of its own. Each
+/// stands in a source file of its own, and as one row in the table of the command that it follows
+/// (palvestrin.cpp, config.cpp).
 struct Command
 {
     QLatin1StringView name;
-    QLatin1StringView arguments; ///< as the usage line shows them
-    QLatin1StringView summary;
-    /// `arguments` holds what follows the command's name. Trouble is thrown as a CommandError.
-    ExitCode (*run)(const QStringList &arguments);
+    QLatin1StringView summary = {};
+    std::span<const Operand> operands = {};
+    std::span<const Option> options = {};
+    /// Trouble is thrown as a CommandError.
+    ExitCode (*run)(const CommandLine &line) = nullptr;
+    std::span<const Command *const> commands = {};
 };
 
-/// Runs the command that `arguments` begin with; "--help" lists `commands`. `program` is what stands in front
-/// of it on the command line. Throws a CommandError when there is no such command.
-ExitCode runOneOf(std::span<const Command> commands, const QString &program, const QStringList &arguments);
+/// Every command has it.
+inline constexpr Option helpOption{.name = QLatin1StringView("help"),
+                                   .meaning = QLatin1StringView("Tell about the command."),
+                                   .letter = 'h'};
 
-/// The options and plain arguments of one command.
-class CommandLine
-{
-public:
-    /// `usage` is the line that "--help" shows first.
-    CommandLine(const QString &usage, const QList<QCommandLineOption> &options);
+/// For the Tab key: the name of a file fits.
+QList<Offer> offerFiles(const CommandLine &before, const QString &begun);
 
-    /// False when "--help" was asked for, and printed. Throws a CommandError when an option is unknown or the
-    /// number of plain arguments is not between `least` and `most`.
-    bool parse(const QStringList &arguments, qsizetype least, qsizetype most);
-
-    bool has(const QString &option) const { return parser.isSet(option); }
-    QString value(const QString &option) const { return parser.value(option); }
-    /// The plain argument at `place`, "" behind the last one.
-    QString argument(qsizetype place) const { return parser.positionalArguments().value(place); }
-
-private:
-    QString helpText() const;
-
-    QString usage;
-    QList<QCommandLineOption> options;
-    QCommandLineParser parser;
-};
-
-/// Writes `text` to standard output in UTF-8, as it stands.
-void printText(const QString &text);
-/// Writes "palvestrin: note: `text`" to standard error.
-void printNote(const QString &text);
-
-/// All of `palvestrin`: `arguments` are the words behind the program's name. Prints what goes wrong.
-ExitCode runPalvestrin(const QStringList &arguments);
+inline constexpr Argument fileArgument{QLatin1StringView("FILE"), offerFiles};

@@ -3,54 +3,32 @@
 #include "commanderror.h"
 #include "knownkeys.h"
 #include "pvconfiguration.h"
+#include "terminal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr Command commands[] = {
-    {"list"_L1, "[PREFIX]"_L1, "every setting: value, meaning, who reads it"_L1, runConfigList},
-    {"get"_L1, "KEY"_L1, "the value of one setting"_L1, runConfigGet},
-    {"set"_L1, "KEY VALUE"_L1, "change one setting"_L1, runConfigSet},
-    {"unset"_L1, "KEY"_L1, "remove one setting"_L1, runConfigUnset},
-    {"show"_L1, ""_L1, "the file as the programs read it"_L1, runConfigShow},
-    {"convert"_L1, "--to FORM FILE"_L1, "a configuration in the other form of file"_L1, runConfigConvert},
-    {"edit"_L1, ""_L1, "change settings in a window"_L1, runConfigEdit},
-};
+constexpr const Command *commands[] = {&configListCommand,  &configGetCommand,  &configSetCommand,
+                                       &configUnsetCommand, &configShowCommand, &configConvertCommand,
+                                       &configEditCommand};
 
 /// Whether this is the user's own file, and XML.
 bool hasUnreadForm(const CommandLine &line, const ConfigFile &file)
 {
-    return !line.has(u"file"_s) && file.type() == form::xml;
+    return !line.has(u"file") && file.type() == form::xml;
 }
 
 constexpr auto unreadForm = "the programs read this file as text, and it is XML"_L1;
 
 } // namespace
 
-ExitCode runConfig(const QStringList &arguments)
-{
-    return runOneOf(commands, u"palvestrin config"_s, arguments);
-}
-
-QCommandLineOption fileOption()
-{
-    return {u"file"_s, u"Use this configuration instead of the user's."_s, u"FILE"_s};
-}
-
-QCommandLineOption forceOption()
-{
-    return {u"force"_s, u"Write even if something of the file gets lost."_s};
-}
-
-QCommandLineOption uncheckedOption()
-{
-    return {u"unchecked"_s, u"Accept keys and values that no program knows."_s};
-}
+constinit const Command configCommand{
+    .name = "config"_L1, .summary = "Find, understand and change settings."_L1, .commands = commands};
 
 QString chosenFile(const CommandLine &line)
 {
-    return line.has(u"file"_s) ? line.value(u"file"_s) : PVConfiguration::userFile();
+    return line.has(u"file") ? line.file(u"file") : PVConfiguration::userFile();
 }
 
 void requireFile(const ConfigFile &file)

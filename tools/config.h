@@ -1,26 +1,30 @@
 #pragma once
 
 #include "advice.h"
-#include "command.h"
+#include "commandline.h"
 #include "configfile.h"
 
-/// `palvestrin config`: dispatches to its commands.
-ExitCode runConfig(const QStringList &arguments);
+/// `palvestrin config` and its commands, one source file each: config_list.cpp and so on.
 
-// One source file each: config_list.cpp and so on.
-ExitCode runConfigList(const QStringList &arguments);
-ExitCode runConfigGet(const QStringList &arguments);
-ExitCode runConfigSet(const QStringList &arguments);
-ExitCode runConfigUnset(const QStringList &arguments);
-ExitCode runConfigShow(const QStringList &arguments);
-ExitCode runConfigConvert(const QStringList &arguments);
-ExitCode runConfigEdit(const QStringList &arguments);
+extern const Command configCommand;
+extern const Command configListCommand;
+extern const Command configGetCommand;
+extern const Command configSetCommand;
+extern const Command configUnsetCommand;
+extern const Command configShowCommand;
+extern const Command configConvertCommand;
+extern const Command configEditCommand;
 
 // What they share.
 
-QCommandLineOption fileOption();
-QCommandLineOption forceOption();
-QCommandLineOption uncheckedOption();
+inline constexpr Argument keyArgument{QLatin1StringView("KEY")};
+inline constexpr Option fileOption{.name = QLatin1StringView("file"),
+                                   .meaning =
+                                       QLatin1StringView("Use this configuration instead of the user's."),
+                                   .argument = &fileArgument};
+inline constexpr Option forceOption{.name = QLatin1StringView("force"),
+                                    .meaning =
+                                        QLatin1StringView("Write even if something of the file gets lost.")};
 
 /// The file that --file names, the user's without it.
 QString chosenFile(const CommandLine &line);
@@ -48,6 +52,6 @@ void changeFile(const CommandLine &line, const QString &key, Change change)
     ConfigFile file(path);
     requireReadForm(line, file);
     change(file);
-    tellBackup(file.save(replacement, line.has(QStringLiteral("force"))));
+    tellBackup(file.save(replacement, line.has(u"force")));
     tellDeadLines(file, key);
 }

@@ -1,13 +1,19 @@
 #include "commanderror.h"
 #include "config.h"
+#include "terminal.h"
 
 #include <QFileInfo>
-
-#include <iostream>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr Argument formArgument{"xml|cfg"_L1};
+constexpr Option toOption{
+    .name = "to"_L1, .meaning = "The form to write."_L1, .argument = &formArgument, .isRequired = true};
+constexpr Option outputOption{"output"_L1, "Write this file instead of standard output."_L1, &fileArgument};
+constexpr Operand operands[] = {{&fileArgument}};
+constexpr Option options[] = {toOption, outputOption, forceOption};
 
 /// The new file, or a CommandError that tells what it would lose.
 QByteArray converted(ConfigFile &file, const QString &to, bool force)
@@ -35,29 +41,23 @@ void writeOutput(const QString &path, const QByteArray &content, bool force)
     replacement.commit(content);
 }
 
-} // namespace
-
-ExitCode runConfigConvert(const QStringList &arguments)
+ExitCode run(const CommandLine &line)
 {
-    CommandLine line(
-        u"palvestrin config convert --to xml|cfg [--output FILE] [--force] FILE"_s,
-        {QCommandLineOption(u"to"_s, u"The form to write: xml or cfg."_s, u"FORM"_s),
-         QCommandLineOption(u"output"_s, u"Write this file instead of standard output."_s, u"FILE"_s),
-         forceOption()});
-    if (!line.parse(arguments, 1, 1))
-        return ExitCode::Done;
-    const QString to = line.value(u"to"_s);
-    if (to != form::text && to != form::xml)
-        throw CommandError(ExitCode::WrongUsage, u"no form \"%1\"; give --to xml or --to cfg"_s.arg(to));
-
-    ConfigFile file(line.argument(0));
+    ConfigFile file(line.fileArgument(0));
     requireFile(file);
-    const bool force = line.has(u"force"_s);
-    const QByteArray content = converted(file, to, force);
-    if (line.has(u"output"_s)) {
-        writeOutput(line.value(u"output"_s), content, force);
-    } else {
-        std::cout.write(content.constData(), content.size());
-    }
+    const bool force = line.has(u"force");
+    const QByteArray content = converted(file, line.value(u"to"), force);
+    if (line.has(u"output"))
+        writeOutput(line.file(u"output"), content, force);
+    else
+        printBytes(content);
     return ExitCode::Done;
 }
+
+} // namespace
+
+constinit const Command configConvertCommand{.name = "convert"_L1,
+                                             .summary = "A configuration in the other form of file."_L1,
+                                             .operands = operands,
+                                             .options = options,
+                                             .run = run};

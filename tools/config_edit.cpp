@@ -3,12 +3,18 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-ExitCode runConfigEdit(const QStringList &arguments)
+namespace {
+
+constexpr Option options[] = {fileOption};
+
+ExitCode run(const CommandLine &line)
 {
-    CommandLine line(u"palvestrin config edit [--file FILE]"_s, {fileOption()});
-    if (!line.parse(arguments, 0, 0))
-        return ExitCode::Done;
     const QString path = chosenFile(line);
     requireReadForm(line, ConfigFile(path));
     becomeCompanion({u"palvestrin-settings"_s, u"palvestrin-desktop"_s}, {u"--file"_s, path});
 }
+
+} // namespace
+
+constinit const Command configEditCommand{
+    .name = "edit"_L1, .summary = "Change settings in a window."_L1, .options = options, .run = run};

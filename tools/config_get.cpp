@@ -1,14 +1,17 @@
 #include "commanderror.h"
 #include "config.h"
 #include "knownkeys.h"
+#include "terminal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-ExitCode runConfigGet(const QStringList &arguments)
+namespace {
+
+constexpr Operand operands[] = {{&keyArgument}};
+constexpr Option options[] = {fileOption};
+
+ExitCode run(const CommandLine &line)
 {
-    CommandLine line(u"palvestrin config get [--file FILE] KEY"_s, {fileOption()});
-    if (!line.parse(arguments, 1, 1))
-        return ExitCode::Done;
     const QString key = line.argument(0);
     const ConfigFile file(chosenFile(line));
     noteUnreadForm(line, file);
@@ -21,3 +24,11 @@ ExitCode runConfigGet(const QStringList &arguments)
     throw CommandError(ExitCode::NotSet, file.path,
                        u"\"%1\" is not set; that means: %2"_s.arg(key, knownkeys::find(key)->whenMissing));
 }
+
+} // namespace
+
+constinit const Command configGetCommand{.name = "get"_L1,
+                                         .summary = "The value of one setting."_L1,
+                                         .operands = operands,
+                                         .options = options,
+                                         .run = run};

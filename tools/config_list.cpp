@@ -2,18 +2,22 @@
 #include "keyedit.h"
 #include "knownkeys.h"
 #include "listing.h"
+#include "terminal.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-ExitCode runConfigList(const QStringList &arguments)
+namespace {
+
+constexpr Argument nameArgument{"NAME"_L1};
+constexpr Option jsonOption{"json"_L1, "Print JSON, in UTF-8."_L1};
+constexpr Option namesOption{"names"_L1, "Print the known keys only, one a line."_L1};
+constexpr Operand operands[] = {{&nameArgument, Operand::AtMostOne}};
+constexpr Option options[] = {fileOption, jsonOption, namesOption};
+
+ExitCode run(const CommandLine &line)
 {
-    CommandLine line(u"palvestrin config list [--file FILE] [--json | --names] [PREFIX]"_s,
-                     {fileOption(), QCommandLineOption(u"json"_s, u"Print JSON."_s),
-                      QCommandLineOption(u"names"_s, u"Print the known keys only, one a line."_s)});
-    if (!line.parse(arguments, 0, 1))
-        return ExitCode::Done;
     const QString prefix = line.argument(0);
-    if (line.has(u"names"_s)) {
+    if (line.has(u"names")) {
         printText(namesOfKnownKeys(prefix));
         return ExitCode::Done;
     }
@@ -24,6 +28,14 @@ ExitCode runConfigList(const QStringList &arguments)
     const std::vector<ListedKey> keys = listedKeys(file.config(), prefix);
     if (keys.empty())
         requireKnownKey(prefix); // tells what was probably meant
-    printText(line.has(u"json"_s) ? asJson(keys) : asText(keys));
+    printText(line.has(u"json") ? asJson(keys) : asText(keys));
     return ExitCode::Done;
 }
+
+} // namespace
+
+constinit const Command configListCommand{.name = "list"_L1,
+                                          .summary = "Every setting: value, meaning, who reads it."_L1,
+                                          .operands = operands,
+                                          .options = options,
+                                          .run = run};

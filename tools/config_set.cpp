@@ -7,6 +7,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr Argument valueArgument{.name = "VALUE"_L1, .isAnyText = true};
+constexpr Option uncheckedOption{"unchecked"_L1, "Accept keys and values that no program knows."_L1};
+constexpr Operand operands[] = {{&keyArgument}, {&valueArgument}};
+constexpr Option options[] = {fileOption, forceOption, uncheckedOption};
+
 [[noreturn]] void refuse(const QString &reason)
 {
     throw CommandError(ExitCode::Refused, reason);
@@ -39,17 +44,11 @@ void requireSensible(const QString &key, const QString &value)
         "front, without text before its name"_s.arg(key, first, key.section(u'.', 0, 0)));
 }
 
-} // namespace
-
-ExitCode runConfigSet(const QStringList &arguments)
+ExitCode run(const CommandLine &line)
 {
-    CommandLine line(u"palvestrin config set [--file FILE] [--force] [--unchecked] KEY VALUE"_s,
-                     {fileOption(), forceOption(), uncheckedOption()});
-    if (!line.parse(arguments, 2, 2))
-        return ExitCode::Done;
     const QString key = line.argument(0);
     const QString value = line.argument(1);
-    if (!line.has(u"unchecked"_s))
+    if (!line.has(u"unchecked"))
         requireSensible(key, value);
     requireStorable(key, value);
 
@@ -59,3 +58,11 @@ ExitCode runConfigSet(const QStringList &arguments)
     });
     return ExitCode::Done;
 }
+
+} // namespace
+
+constinit const Command configSetCommand{.name = "set"_L1,
+                                         .summary = "Change one setting."_L1,
+                                         .operands = operands,
+                                         .options = options,
+                                         .run = run};

@@ -2,14 +2,20 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-ExitCode runConfigShow(const QStringList &arguments)
+namespace {
+
+constexpr Option options[] = {fileOption};
+
+ExitCode run(const CommandLine &line)
 {
-    CommandLine line(u"palvestrin config show [--file FILE]"_s, {fileOption()});
-    if (!line.parse(arguments, 0, 0))
-        return ExitCode::Done;
     const ConfigFile file(chosenFile(line));
     requireFile(file);
     noteUnreadForm(line, file);
     file.config().printConfigTree();
     return ExitCode::Done;
 }
+
+} // namespace
+
+constinit const Command configShowCommand{
+    .name = "show"_L1, .summary = "The file as the programs read it."_L1, .options = options, .run = run};

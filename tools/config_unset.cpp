@@ -4,11 +4,13 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-ExitCode runConfigUnset(const QStringList &arguments)
+namespace {
+
+constexpr Operand operands[] = {{&keyArgument}};
+constexpr Option options[] = {fileOption, forceOption};
+
+ExitCode run(const CommandLine &line)
 {
-    CommandLine line(u"palvestrin config unset [--file FILE] [--force] KEY"_s, {fileOption(), forceOption()});
-    if (!line.parse(arguments, 1, 1))
-        return ExitCode::Done;
     const QString key = line.argument(0);
     requireFile(ConfigFile(chosenFile(line))); // first, for a change makes the folders that are missing
     changeFile(line, key, [&](ConfigFile &file) {
@@ -20,3 +22,11 @@ ExitCode runConfigUnset(const QStringList &arguments)
     });
     return ExitCode::Done;
 }
+
+} // namespace
+
+constinit const Command configUnsetCommand{.name = "unset"_L1,
+                                           .summary = "Remove one setting."_L1,
+                                           .operands = operands,
+                                           .options = options,
+                                           .run = run};

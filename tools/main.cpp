@@ -1,9 +1,6 @@
-#include "command.h"
+#include "dispatch.h"
 
 int main(int argc, char **argv)
 {
-    QStringList arguments;
-    for (int i = 1; i < argc; ++i)
-        arguments += QString::fromLocal8Bit(argv[i]);
-    return static_cast<int>(runPalvestrin(arguments));
+    return static_cast<int>(runPalvestrin(QByteArrayList(argv + 1, argv + argc)));
 }

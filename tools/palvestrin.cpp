@@ -1,6 +1,7 @@
-#include "command.h"
 #include "commanderror.h"
 #include "config.h"
+#include "dispatch.h"
+#include "terminal.h"
 
 #include <iostream>
 
@@ -8,32 +9,30 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr Command commands[] = {
-    {"config"_L1, "COMMAND"_L1, "find, understand and change settings"_L1, runConfig},
-};
+constexpr const Command *commands[] = {&configCommand};
 
-ExitCode run(const QStringList &arguments)
+constexpr Command palvestrin{.name = "palvestrin"_L1, .commands = commands};
+
+ExitCode run(const QByteArrayList &words)
 {
-    if (arguments.value(0) == "--version"_L1) {
+    if (words.value(0) == "--version") {
         printText("palvestrin "_L1 + QLatin1StringView(PALVESTRIN_VERSION) + '\n'_L1);
         return ExitCode::Done;
     }
-    return runOneOf(commands, u"palvestrin"_s, arguments);
+    return dispatch(palvestrin, palvestrin.name, words);
 }
 
 } // namespace
 
-ExitCode runPalvestrin(const QStringList &arguments)
+ExitCode runPalvestrin(const QByteArrayList &words)
 {
     try {
-        const ExitCode result = run(arguments);
+        const ExitCode result = run(words);
         if (!std::cout.flush())
             throw CommandError(ExitCode::WriteFailed, u"standard output cannot be written"_s);
         return result;
     } catch (const CommandError &error) {
-        std::cout.flush();
-        for (const QString &line : error.messages())
-            std::cerr << line.toStdString() << '\n';
+        printErrors(error);
         return error.code();
     }
 }

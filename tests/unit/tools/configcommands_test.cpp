@@ -158,16 +158,6 @@ private Q_SLOTS:
             "between");
         row({u"get"_s, u"palvestrin.db.host"_s}, 3,
             "no program reads \"palvestrin.db.host\"; did you mean \"palvestrin.db.hostname\"?");
-        row({}, 2, "no command given; \"palvestrin config --help\" lists them");
-        row({u"put"_s}, 2, "no command \"put\"; \"palvestrin config --help\" lists them");
-        row({u"set"_s, u"palvestrin.db.dbname"_s}, 2,
-            "1 arguments given; usage: palvestrin config set [--file FILE] [--force] [--unchecked] KEY VALUE "
-            "(an "
-            "argument that begins with \"-\" goes behind \"--\")");
-        row({u"get"_s, u"--nope"_s}, 2,
-            "Unknown option 'nope'; usage: palvestrin config get [--file FILE] KEY (an argument that begins "
-            "with \"-\" "
-            "goes behind \"--\")");
     }
     void refusals()
     {
@@ -187,14 +177,6 @@ private Q_SLOTS:
         QCOMPARE(runOn(path, {u"set"_s, u"--unchecked"_s, u"p.mine"_s, u"1"_s}).code, 0);
         QCOMPARE(folder.read(u"c.conf"_s), "p: \n{\n    k = \"v\";\n    mine = \"1\";\n};\n\n");
         QCOMPARE(runOn(path, {u"get"_s, u"p.mine"_s}).output, "1\n");
-    }
-
-    void aValueMayBeginWithADash()
-    {
-        const ScratchFolder folder;
-        const QString path = folder.write(u"c.conf"_s, "");
-        QCOMPARE(runOn(path, {u"set"_s, u"--"_s, u"palvestrin.db.password"_s, u"-x"_s}).code, 0);
-        QCOMPARE(runOn(path, {u"get"_s, u"palvestrin.db.password"_s}).output, "-x\n");
     }
 
     void whatWritingWouldLoseIsNamedAndKept()
@@ -684,9 +666,6 @@ private Q_SLOTS:
         const Result forced = run({u"convert"_s, u"--to"_s, u"xml"_s, u"--force"_s, text});
         QCOMPARE(forced.code, 0);
         QCOMPARE(forced.output, "top = \"1\";\n\n<p\n    k = \"v\">\n</p>\n");
-        const Result unknownForm = run({u"convert"_s, u"--to"_s, u"ini"_s, text});
-        QCOMPARE(unknownForm.code, 2);
-        QCOMPARE(unknownForm.errors, "palvestrin: error: no form \"ini\"; give --to xml or --to cfg\n");
     }
 
     void aFullDiskLeavesTheOldFile()
