@@ -55,7 +55,7 @@ inline constexpr ApplicationKey applicationKeys[] = {
      "no log"_L1, "logger"_L1},
     {applicationkey::dbName, ValueKind::Text, "database name"_L1, "\"\""_L1, "database"_L1},
     {applicationkey::dbUserName, ValueKind::Text, "database user"_L1, "\"\""_L1, "database"_L1},
-    {applicationkey::dbPassword, ValueKind::Text, "database password"_L1, "\"\""_L1, "database"_L1},
+    {applicationkey::dbPassword, ValueKind::Secret, "database password"_L1, "\"\""_L1, "database"_L1},
     {applicationkey::dbHostName, ValueKind::Text, "database host"_L1, "\"\""_L1, "database"_L1},
     {applicationkey::binPath, ValueKind::Text,
      "directory of the application's programs; a \"/\" and the name follow"_L1, "the root directory"_L1,

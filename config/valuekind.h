@@ -11,6 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 /// What the reader of a setting makes of its text.
 enum class ValueKind {
     Text,    ///< taken as it stands
+    Secret,  ///< the same, and nothing to show to whoever looks over the shoulder
     Count,   ///< a whole number; anything else is 0
     Width,   ///< a whole number of characters; 0 and anything else is the printer's own width
     Flag,    ///< on for exactly "true"

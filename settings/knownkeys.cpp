@@ -99,6 +99,7 @@ QString effectiveValue(const Key &key, const QString &value)
 {
     switch (key.kind) {
     case ValueKind::Text:
+    case ValueKind::Secret:
         return value;
     case ValueKind::Count:
         return QString::number(value.toInt());
@@ -118,6 +119,7 @@ QString objection(const Key &key, const QString &value)
 {
     switch (key.kind) {
     case ValueKind::Text:
+    case ValueKind::Secret:
         return {};
     case ValueKind::Count:
     case ValueKind::Width:

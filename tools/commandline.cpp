@@ -122,7 +122,8 @@ QString CommandLine::noSuchOption(const QString &word) const
     for (const Option &option : allOptions(command))
         known += dashed(option);
     const QString meant = nearestWord(word, known);
-    return u"no option \"%1\""_s.arg(word) + (meant.isEmpty() ? QString() : u"; did you mean \"%1\"?"_s.arg(meant));
+    return u"no option \"%1\""_s.arg(word) +
+           (meant.isEmpty() ? QString() : u"; did you mean \"%1\"?"_s.arg(meant));
 }
 
 QString CommandLine::trouble() const
@@ -146,7 +147,8 @@ QString CommandLine::wrongValue() const
             continue;
         const QString value = fromTerminal(one.value);
         if (!QString(one.option->argument->name).split(u'|').contains(value))
-            return u"no \"%1\" for %2; give %3"_s.arg(value, dashed(*one.option), inWords(*one.option->argument));
+            return u"no \"%1\" for %2; give %3"_s.arg(value, dashed(*one.option),
+                                                      inWords(*one.option->argument));
     }
     return {};
 }
@@ -198,7 +200,8 @@ QString CommandLine::file(QAnyStringView option) const
 {
     const Given *found = last(option);
     if (found && found->value.isEmpty())
-        throw CommandError(ExitCode::WrongUsage, dashed(*found->option) + " is empty; give the name of a file"_L1);
+        throw CommandError(ExitCode::WrongUsage,
+                           dashed(*found->option) + " is empty; give the name of a file"_L1);
     return found ? QFile::decodeName(found->value) : QString();
 }
 

@@ -26,6 +26,9 @@ inline constexpr Option forceOption{.name = QLatin1StringView("force"),
                                     .meaning =
                                         QLatin1StringView("Write even if something of the file gets lost.")};
 
+inline constexpr Option showSecretsOption{.name = QLatin1StringView("show-secrets"),
+                                          .meaning = QLatin1StringView("Show passwords, too.")};
+
 /// The file that --file names, the user's without it.
 QString chosenFile(const CommandLine &line);
 

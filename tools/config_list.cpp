@@ -12,23 +12,28 @@ constexpr Argument nameArgument{"NAME"_L1};
 constexpr Option jsonOption{"json"_L1, "Print JSON, in UTF-8."_L1};
 constexpr Option namesOption{"names"_L1, "Print the known keys only, one a line."_L1};
 constexpr Operand operands[] = {{&nameArgument, Operand::AtMostOne}};
-constexpr Option options[] = {fileOption, jsonOption, namesOption};
+constexpr Option options[] = {fileOption, jsonOption, namesOption, showSecretsOption};
 
 ExitCode run(const CommandLine &line)
 {
-    const QString prefix = line.argument(0);
+    const QString name = line.argument(0);
     if (line.has(u"names")) {
-        printText(namesOfKnownKeys(prefix));
+        printText(namesOfKnownKeys(name));
         return ExitCode::Done;
     }
     ConfigFile file(chosenFile(line));
     if (!file.exists())
         printNote(u"there is no file %1; nothing is set"_s.arg(file.path));
     noteUnreadForm(line, file);
-    const std::vector<ListedKey> keys = listedKeys(file.config(), prefix);
+    std::vector<ListedKey> keys = listedKeys(file.config(), name);
     if (keys.empty())
-        requireKnownKey(prefix); // tells what was probably meant
-    printText(line.has(u"json") ? asJson(keys) : asText(keys));
+        requireKnownKey(name); // tells what was probably meant
+    if (!line.has(u"show-secrets"))
+        hideSecrets(keys);
+    if (line.has(u"json"))
+        printBytes(asJson(keys));
+    else
+        printText(asText(keys));
     return ExitCode::Done;
 }
 

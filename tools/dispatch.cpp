@@ -30,7 +30,8 @@ QString commandList(const Command &group, const QString &program)
     for (const Command *command : group.commands)
         text += helpRow(shortUsage(*command), command->summary);
     text += helpRow(u"help [COMMAND]"_s, u"Tell about a command."_s);
-    return text + u"\n\"%1 help COMMAND\" tells more; \"man %2\" tells all.\n"_s.arg(program, manualPage(program));
+    return text +
+           u"\n\"%1 help COMMAND\" tells more; \"man %2\" tells all.\n"_s.arg(program, manualPage(program));
 }
 
 QString helpText(const Command &command, const QString &program)
@@ -101,7 +102,8 @@ ExitCode dispatch(const Command &group, const QString &program, const QByteArray
     if (group.commands.empty())
         return runOne(group, program, words);
     if (words.isEmpty())
-        throw CommandError(ExitCode::WrongUsage, u"the command is missing\n\n%1"_s.arg(commandList(group, program).chopped(1)));
+        throw CommandError(ExitCode::WrongUsage,
+                           u"the command is missing\n\n%1"_s.arg(commandList(group, program).chopped(1)));
     const QByteArray &first = words.first();
     if (first == "help" || first == "--help" || first == "-h")
         return tellAbout(group, program, words.sliced(1));

@@ -4,9 +4,9 @@
 
 #include <QByteArrayList>
 
-/// Runs the command of `group` that `words` begin with, down to one that has no commands of its own; "--help" and
-/// "help" tell about it instead. `program` is what stands in front of the words on the command line. Throws a
-/// CommandError.
+/// Runs the command of `group` that `words` begin with, down to one that has no commands of its own; "--help"
+/// and "help" tell about it instead. `program` is what stands in front of the words on the command line.
+/// Throws a CommandError.
 ExitCode dispatch(const Command &group, const QString &program, const QByteArrayList &words);
 
 /// All of `palvestrin`: `words` are those behind the program's name. Prints what goes wrong.

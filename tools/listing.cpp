@@ -3,14 +3,38 @@
 #include "keyedit.h"
 #include "knownkeys.h"
 #include "printmethods.h"
+#include "secrets.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+bool isNamedBy(const knownkeys::Key &key, const QString &name)
+{
+    const QString dotted = u'.' + key.name + u'.';
+    return key.name.startsWith(name, Qt::CaseInsensitive) ||
+           dotted.contains(u'.' + name + u'.', Qt::CaseInsensitive);
+}
+
+std::vector<knownkeys::Key> knownKeysNamed(const QString &name)
+{
+    std::vector<knownkeys::Key> keys;
+    std::ranges::copy_if(knownkeys::all(), std::back_inserter(keys),
+                         [&](const knownkeys::Key &key) { return isNamedBy(key, name); });
+    if (keys.empty()) {
+        std::ranges::copy_if(knownkeys::all(), std::back_inserter(keys), [&](const knownkeys::Key &key) {
+            return key.name.contains(u'.' + name, Qt::CaseInsensitive);
+        });
+    }
+    return keys;
+}
 
 ListedKey knownKey(const knownkeys::Key &key, const QString &value)
 {
@@ -47,6 +71,8 @@ QJsonObject asObject(const ListedKey &key)
     QJsonObject object{{u"key"_s, key.key},
                        {u"value"_s, key.value.isEmpty() ? QJsonValue() : QJsonValue(key.value)},
                        {u"known"_s, key.objection.isEmpty()}};
+    if (key.isHidden)
+        object.insert(u"hidden"_s, true);
     if (!key.objection.isEmpty()) {
         object.insert(u"objection"_s, key.objection);
         return object;
@@ -109,28 +135,34 @@ QString documentSettingsTable()
 
 } // namespace
 
-std::vector<ListedKey> listedKeys(libconfig::Config &config, const QString &prefix)
+std::vector<ListedKey> listedKeys(libconfig::Config &config, const QString &name)
 {
     std::vector<ListedKey> keys;
-    for (const knownkeys::Key &key : knownkeys::all()) {
-        if (key.name.startsWith(prefix))
-            keys.push_back(knownKey(key, config.lookup(key.name)));
-    }
+    for (const knownkeys::Key &key : knownKeysNamed(name))
+        keys.push_back(knownKey(key, config.lookup(key.name)));
     for (const StoredPair &pair : storedPairs(config)) {
         const QString objection = pairObjection(pair.key, pair.isFound);
-        if (!objection.isEmpty() && pair.key.contains(prefix)) // a remark may stand in front of the key
+        // A remark may stand in front of the key.
+        if (!objection.isEmpty() && pair.key.contains(name, Qt::CaseInsensitive))
             keys.push_back({pair.key, pair.value, {}, {}, {}, {}, {}, objection});
     }
     return keys;
 }
 
-QString namesOfKnownKeys(const QString &prefix)
+void hideSecrets(std::vector<ListedKey> &keys)
+{
+    for (ListedKey &key : keys) {
+        key.isHidden = !key.value.isEmpty() && mayBeSecret(key.key, key.value);
+        if (key.isHidden)
+            key.value = key.effective = hiddenValue;
+    }
+}
+
+QString namesOfKnownKeys(const QString &name)
 {
     QString names;
-    for (const knownkeys::Key &key : knownkeys::all()) {
-        if (key.name.startsWith(prefix))
-            names += key.name + u'\n';
-    }
+    for (const knownkeys::Key &key : knownKeysNamed(name))
+        names += key.name + u'\n';
     return names;
 }
 
@@ -145,12 +177,12 @@ QString asText(const std::vector<ListedKey> &keys)
     return text;
 }
 
-QString asJson(const std::vector<ListedKey> &keys)
+QByteArray asJson(const std::vector<ListedKey> &keys)
 {
     QJsonArray array;
     for (const ListedKey &key : keys)
         array.append(asObject(key));
-    return QString::fromUtf8(QJsonDocument(array).toJson());
+    return QJsonDocument(array).toJson();
 }
 
 QString keysAsMarkdown()

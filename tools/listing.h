@@ -19,16 +19,22 @@ struct ListedKey
     QString whenMissing;
     QString readBy;
     QStringList printMethods;
-    QString objection; ///< why the key has no effect, "" for a known one
+    QString objection;     ///< why the key has no effect, "" for a known one
+    bool isHidden = false; ///< whether the value is kept back
 };
 
-/// The known keys that begin with `prefix`, then the file's other keys that hold it anywhere.
-std::vector<ListedKey> listedKeys(libconfig::Config &config, const QString &prefix);
+/// The known keys that `name` names, then the file's other keys that hold it anywhere. A name is a key, the
+/// beginning of one, a block or a setting, in any case; where it is none of these, the beginning of a block
+/// or a setting.
+std::vector<ListedKey> listedKeys(libconfig::Config &config, const QString &name);
 
-QString namesOfKnownKeys(const QString &prefix);
+/// Keeps the values back that may be secret.
+void hideSecrets(std::vector<ListedKey> &keys);
+
+QString namesOfKnownKeys(const QString &name);
 QString asText(const std::vector<ListedKey> &keys);
-/// An array of objects, indented.
-QString asJson(const std::vector<ListedKey> &keys);
+/// An array of objects, indented, in UTF-8.
+QByteArray asJson(const std::vector<ListedKey> &keys);
 
 /// The tables of the chapter "Keys" in docs/configuration.md.
 QString keysAsMarkdown();

@@ -597,15 +597,6 @@ private Q_SLOTS:
         QCOMPARE(folder.read(u"c.xml"_s), "<!-- mine -->\n<palvestrin/>\n");
     }
 
-    void shows()
-    {
-        const ScratchFolder folder;
-        const QString path = folder.write(u"c.conf"_s, example);
-        QCOMPARE(runOn(path, {u"show"_s}).output, "Tree \n" + path.toUtf8() +
-                                                      "\npalvestrin\nlogger\nlevel = INFO\nfilename = "
-                                                      "palvestrin.log\nreceiptdoc\npaperWidth = 40\n");
-    }
-
     void convertsBothWays()
     {
         const ScratchFolder folder;

@@ -1,4 +1,5 @@
-// How palvestrin takes its words: what is an option and what is not, what is missing, and where a beginner is led.
+// How palvestrin takes its words: what is an option and what is not, what is missing, and where a beginner is
+// led.
 
 #include "program.h"
 #include "scratchfolder.h"
@@ -50,7 +51,7 @@ private Q_SLOTS:
         row(u"config show --file "_s, "--file is empty; give the name of a file");
         row(u"config edit --file "_s, "--file is empty; give the name of a file");
         row(u"config show it"_s,
-            "one argument too many: \"it\"; usage: palvestrin config show [--file FILE]");
+            "one argument too many: \"it\"; usage: palvestrin config show [--file FILE] [--show-secrets]");
         row(u"config convert --to xml"_s, "the file is missing; " + convertUsage);
         row(u"config convert --to xml "_s, "the name of the file is empty; give one");
         row(u"config convert x"_s, "--to xml|cfg is missing; " + convertUsage);
