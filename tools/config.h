@@ -2,6 +2,7 @@
 
 #include "advice.h"
 #include "commandline.h"
+#include "completion.h"
 #include "configfile.h"
 
 /// `palvestrin config` and its commands, one source file each: config_list.cpp and so on.
@@ -17,7 +18,7 @@ extern const Command configEditCommand;
 
 // What they share.
 
-inline constexpr Argument keyArgument{QLatin1StringView("KEY")};
+inline constexpr Argument keyArgument{QLatin1StringView("KEY"), offerKeys};
 inline constexpr Option fileOption{.name = QLatin1StringView("file"),
                                    .meaning =
                                        QLatin1StringView("Use this configuration instead of the user's."),

@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr Argument nameArgument{"NAME"_L1};
+constexpr Argument nameArgument{"NAME"_L1, offerNames};
 constexpr Option jsonOption{"json"_L1, "Print JSON, in UTF-8."_L1};
 constexpr Option namesOption{"names"_L1, "Print the known keys only, one a line."_L1};
 constexpr Operand operands[] = {{&nameArgument, Operand::AtMostOne}};

@@ -7,7 +7,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr Argument valueArgument{.name = "VALUE"_L1, .isAnyText = true};
+constexpr Argument valueArgument{.name = "VALUE"_L1, .offers = offerValues, .isAnyText = true};
 constexpr Option uncheckedOption{"unchecked"_L1, "Accept keys and values that no program knows."_L1};
 constexpr Operand operands[] = {{&keyArgument}, {&valueArgument}};
 constexpr Option options[] = {fileOption, forceOption, uncheckedOption};

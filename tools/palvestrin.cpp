@@ -1,4 +1,5 @@
 #include "commanderror.h"
+#include "completion.h"
 #include "config.h"
 #include "dispatch.h"
 #include "terminal.h"
@@ -17,6 +18,10 @@ ExitCode run(const QByteArrayList &words)
 {
     if (words.value(0) == "--version") {
         printText("palvestrin "_L1 + QLatin1StringView(PALVESTRIN_VERSION) + '\n'_L1);
+        return ExitCode::Done;
+    }
+    if (words.value(0) == "--complete") { // for the shells' completions
+        printText(offersFor(palvestrin, words.sliced(1)));
         return ExitCode::Done;
     }
     return dispatch(palvestrin, palvestrin.name, words);

@@ -11,7 +11,8 @@ class CommandError;
 QString fromTerminal(const QByteArray &word);
 /// Writes `text` to standard output, as it stands.
 void printText(const QString &text);
-/// Writes "palvestrin: note: `text`" to standard error; with a `place` in a file, that instead of the program.
+/// Writes "palvestrin: note: `text`" to standard error; with a `place` in a file, that instead of the
+/// program.
 void printNote(const QString &text);
 void printNote(const QString &place, const QString &text);
 /// Writes the messages of an error to standard error, behind all that was printed before.

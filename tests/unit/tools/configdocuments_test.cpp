@@ -6,8 +6,6 @@
 #include "scratchfolder.h"
 
 #include <QFile>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -34,22 +32,6 @@ private:
         QFile file(sourcePath(name));
         if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
             qFatal("cannot write %s", qPrintable(file.fileName()));
-    }
-
-    /// What bash offers for the command line `words`, whose last word is being typed.
-    static QStringList completions(const QStringList &words)
-    {
-        const QString script =
-            u"source \"$1\"; shift; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _palvestrin; "
-            "printf '%s\\n' \"${COMPREPLY[@]}\""_s;
-        QStringList arguments{u"--norc"_s, u"-c"_s, script, u"bash"_s};
-        arguments << sourcePath(u"completions/palvestrin"_s) << QStringLiteral(PALVESTRIN_PROGRAM) << words;
-        QProcess bash;
-        bash.start(u"bash"_s, arguments);
-        if (!bash.waitForFinished())
-            return {u"bash does not finish"_s};
-        return QString::fromUtf8(bash.readAllStandardOutput() + bash.readAllStandardError())
-            .split(u'\n', Qt::SkipEmptyParts);
     }
 
 private Q_SLOTS:
@@ -130,33 +112,6 @@ private Q_SLOTS:
     {
         for (size_t i = 0; i < exitCodeMeanings.size(); ++i)
             QCOMPARE(size_t(exitCodeMeanings[i].code), i);
-    }
-
-    void completes_data()
-    {
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<QString>("offered");
-        const auto row = [](const QString &words, const QString &offered) {
-            QTest::newRow(qPrintable(words)) << words << offered;
-        };
-        row(u"co"_s, u"config"_s);
-        row(u"config s"_s, u"set show"_s);
-        row(u"config get palvestrin.logger.f"_s, u"palvestrin.logger.filename"_s);
-        row(u"config set --force palvestrin.db."_s,
-            u"palvestrin.db.dbname palvestrin.db.username palvestrin.db.password palvestrin.db.hostname"_s);
-        row(u"config list --file x palvestrin.bin"_s, u"palvestrin.bin.path"_s);
-        row(u"config set palvestrin.logger.level palvestrin.bin"_s, u""_s); // that is the value
-        row(u"config set --u"_s, u"--unchecked"_s);
-        row(u"config unset --f"_s, u"--file --force"_s);
-        row(u"config convert --to "_s, u"xml cfg"_s);
-        row(u"config get nonsense"_s, u""_s);
-        row(u"other "_s, u""_s);
-    }
-    void completes()
-    {
-        QFETCH(QString, words);
-        QFETCH(QString, offered);
-        QCOMPARE(completions(words.split(u' ')).join(u' '), offered);
     }
 };
 

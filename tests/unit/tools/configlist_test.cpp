@@ -28,7 +28,8 @@ private:
     }
     QStringList names(const QString &name) const
     {
-        return QString::fromUtf8(config("", {u"list"_s, u"--names"_s, name})).split(u'\n', Qt::SkipEmptyParts);
+        return QString::fromUtf8(config("", {u"list"_s, u"--names"_s, name}))
+            .split(u'\n', Qt::SkipEmptyParts);
     }
 
 private Q_SLOTS:
@@ -39,8 +40,8 @@ private Q_SLOTS:
         const QStringList database{u"palvestrin.db.dbname"_s, u"palvestrin.db.username"_s,
                                    u"palvestrin.db.password"_s, u"palvestrin.db.hostname"_s};
         QStringList widths;
-        for (const QString &kind : {u""_s, u"prefiscal"_s, u"fiscal"_s, u"receipt"_s, u"invoice"_s, u"delivery"_s,
-                                    u"report"_s, u"sold"_s})
+        for (const QString &kind : {u""_s, u"prefiscal"_s, u"fiscal"_s, u"receipt"_s, u"invoice"_s,
+                                    u"delivery"_s, u"report"_s, u"sold"_s})
             widths += u"palvestrin.%1doc.paperWidth"_s.arg(kind);
         const auto row = [](const QString &name, const QStringList &found) {
             QTest::newRow(qPrintable(name)) << name << found;
@@ -80,29 +81,32 @@ private Q_SLOTS:
         QCOMPARE(config("", {u"list"_s, u"palvestrin.receitdoc.paperWidth"_s}),
                  "palvestrin: error: no program reads \"palvestrin.receitdoc.paperWidth\"; did you mean "
                  "\"palvestrin.receiptdoc.paperWidth\"?\n");
-        QCOMPARE(config("", {u"list"_s, u"nonsense"_s}),
-                 "palvestrin: error: no program reads \"nonsense\"; \"palvestrin config list\" lists the known "
-                 "ones\n");
+        QCOMPARE(
+            config("", {u"list"_s, u"nonsense"_s}),
+            "palvestrin: error: no program reads \"nonsense\"; \"palvestrin config list\" lists the known "
+            "ones\n");
     }
 
     void showIsIndentedLikeTheFile()
     {
         const QByteArray file = folder.path(u"c.conf"_s).toUtf8();
-        QCOMPARE(config("top = 1; palvestrin: { a = x; logger: { level = INFO; deep: { k = ; }; }; doc: { w = 1; }; "
-                        "}; other: { n = 2; };",
-                        {u"show"_s}),
-                 file + "\n"
-                        "top = 1\n"
-                        "palvestrin\n"
-                        "    a = x\n"
-                        "    logger\n"
-                        "        level = INFO\n"
-                        "        deep\n"
-                        "            k = \n"
-                        "    doc\n"
-                        "        w = 1\n"
-                        "other\n"
-                        "    n = 2\n");
+        QCOMPARE(
+            config(
+                "top = 1; palvestrin: { a = x; logger: { level = INFO; deep: { k = ; }; }; doc: { w = 1; }; "
+                "}; other: { n = 2; };",
+                {u"show"_s}),
+            file + "\n"
+                   "top = 1\n"
+                   "palvestrin\n"
+                   "    a = x\n"
+                   "    logger\n"
+                   "        level = INFO\n"
+                   "        deep\n"
+                   "            k = \n"
+                   "    doc\n"
+                   "        w = 1\n"
+                   "other\n"
+                   "    n = 2\n");
     }
 
     void aRemarkDoesNotBreakTheIndentation()
@@ -137,7 +141,8 @@ private Q_SLOTS:
     {
         QVERIFY(config("palvestrin: { };", {u"list"_s, u"palvestrin.db.password"_s})
                     .startsWith("palvestrin.db.password is not set\n"));
-        QVERIFY(config("palvestrin: { db: { password = ; }; };", {u"show"_s}).endsWith("        password = \n"));
+        QVERIFY(
+            config("palvestrin: { db: { password = ; }; };", {u"show"_s}).endsWith("        password = \n"));
     }
 
     void jsonTellsThatAValueIsHidden()
@@ -149,8 +154,8 @@ private Q_SLOTS:
         QCOMPARE(hidden[u"value"_s], QJsonValue(u"(hidden)"_s));
         QCOMPARE(hidden[u"effective"_s], QJsonValue(u"(hidden)"_s));
         QCOMPARE(hidden[u"hidden"_s], QJsonValue(true));
-        const QJsonObject shown = QJsonDocument::fromJson(config(content, {u"list"_s, u"--json"_s, u"--show-secrets"_s,
-                                                                           u"palvestrin.db.password"_s}))[0]
+        const QJsonObject shown = QJsonDocument::fromJson(config(
+            content, {u"list"_s, u"--json"_s, u"--show-secrets"_s, u"palvestrin.db.password"_s}))[0]
                                       .toObject();
         QCOMPARE(shown[u"value"_s], QJsonValue(u"geheim"_s));
         QVERIFY(!shown.contains(u"hidden"_s));
@@ -174,8 +179,8 @@ private Q_SLOTS:
     void noSlipShowsAPassword()
     {
         QFETCH(QByteArray, content);
-        for (const QStringList &words : {QStringList{u"list"_s}, QStringList{u"show"_s},
-                                         QStringList{u"list"_s, u"--json"_s}}) {
+        for (const QStringList &words :
+             {QStringList{u"list"_s}, QStringList{u"show"_s}, QStringList{u"list"_s, u"--json"_s}}) {
             const QByteArray output = config(content, words);
             QVERIFY2(output.contains("(hidden)"), output);
             QVERIFY2(!output.contains("geheim"), output);
