@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exitcode.h"
+#include "filename.h"
 #include "tokenizer.h"
 
 #include <QString>
@@ -18,20 +19,20 @@ public:
         : exitCode(why), lines{errorLine(QStringLiteral("palvestrin"), message)}
     {
     }
-    CommandError(ExitCode why, const QString &file, const QString &message)
-        : exitCode(why), lines{errorLine(file, message)}
+    CommandError(ExitCode why, const FileName &file, const QString &message)
+        : exitCode(why), lines{errorLine(file.shown(), message)}
     {
     }
-    CommandError(ExitCode why, const QString &file, Position at, const QString &message) : exitCode(why)
+    CommandError(ExitCode why, const FileName &file, Position at, const QString &message) : exitCode(why)
     {
         add(file, at, message);
     }
     explicit CommandError(ExitCode why) : exitCode(why) {}
 
-    void add(const QString &file, Position at, const QString &message)
+    void add(const FileName &file, Position at, const QString &message)
     {
         const QString place = QStringLiteral(":%1:%2").arg(at.line).arg(at.column);
-        lines.push_back(errorLine(file + place, message));
+        lines.push_back(errorLine(file.shown() + place, message));
     }
 
     ExitCode code() const { return exitCode; }

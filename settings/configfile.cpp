@@ -4,10 +4,10 @@
 
 #include <QBuffer>
 #include <QFile>
-#include <QFileInfo>
 #include <QXmlStreamReader>
 
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,10 +16,10 @@ namespace {
 
 /// Whether there is a file. Throws a CommandError (Unreadable) when nobody can tell, as in a folder that may
 /// not be entered.
-bool isThereAt(const QString &path)
+bool isThereAt(const FileName &path)
 {
     struct stat found = {};
-    if (::stat(QFile::encodeName(path).constData(), &found) == 0)
+    if (::stat(path.system(), &found) == 0)
         return true;
     if (errno == ENOENT || errno == ENOTDIR)
         return false;
@@ -97,13 +97,15 @@ QString whatFits(const QString &type)
 
 } // namespace
 
-QByteArray bytesOf(const QString &path)
+QByteArray bytesOf(const FileName &path)
 {
-    QFile file(path);
-    if (!QFileInfo(path).isFile()) // a pipe could be read only once, a folder not at all
+    if (!path.isRegularFile()) // a pipe could be read only once, a folder not at all
         throw CommandError(ExitCode::Unreadable, path, u"it is no regular file; give one"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        throw CommandError(ExitCode::Unreadable, path, file.errorString());
+    const int descriptor = ::open(path.system(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        throw CommandError(ExitCode::Unreadable, path, qt_error_string(errno));
+    QFile file;
+    file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         throw CommandError(ExitCode::Unreadable, path, file.errorString());
@@ -121,7 +123,7 @@ QString firstDifference(const QDomElement &root, const QDomElement &otherRoot)
     return firstDifference(firstBlock(root), firstBlock(otherRoot), QString());
 }
 
-ConfigFile::ConfigFile(const QString &filePath)
+ConfigFile::ConfigFile(const FileName &filePath)
     : path(filePath), isThere(isThereAt(behindLinks(filePath))), form(form::text)
 {
     if (isThere)
@@ -133,7 +135,7 @@ void ConfigFile::read()
     bytes = bytesOf(path);
     if (looksLikeXml(bytes))
         form = form::xml;
-    tree.readContent(bytes, path, form);
+    tree.readContent(bytes, path.shown(), form);
     if (form == form::xml)
         checkXml();
 }
@@ -205,7 +207,7 @@ QByteArray ConfigFile::inForm(const QString &as)
 QString ConfigFile::changedIn(const QString &as)
 {
     libconfig::Config readAgain;
-    readAgain.readContent(inForm(as), path, as);
+    readAgain.readContent(inForm(as), path.shown(), as);
     return firstDifference(tree.root(), readAgain.root());
 }
 
@@ -219,7 +221,7 @@ QByteArray ConfigFile::written(const QString &as, bool evenIfItChanges)
     return inForm(as);
 }
 
-QString ConfigFile::save(FileReplacement &replacement, bool force)
+FileName ConfigFile::save(FileReplacement &replacement, bool force)
 {
     const bool loses = !losses().empty();
     if (loses && !force)
@@ -228,21 +230,21 @@ QString ConfigFile::save(FileReplacement &replacement, bool force)
     const QByteArray content = written(form);
     if (content == bytes)
         return {};
-    const QString backup = isThere ? keepBackup(path, bytes, loses) : QString();
+    const FileName backup = isThere ? keepBackup(path, bytes, loses) : FileName();
     replacement.commit(content);
     bytes = content;
     isThere = true;
-    return loses ? backup : QString();
+    return loses ? backup : FileName();
 }
 
-QString keepBackup(const QString &path, const QByteArray &content, bool forGood)
+FileName keepBackup(const FileName &path, const QByteArray &content, bool forGood)
 {
-    const QString target = behindLinks(path);
-    const QString usual = target + ".bak"_L1;
+    const FileName target = behindLinks(path);
+    const FileName usual = target.with(u".bak"_s);
     int number = 1;
-    while (forGood && QFileInfo::exists(usual + u".%1"_s.arg(number)))
+    while (forGood && usual.with(u".%1"_s.arg(number)).exists())
         ++number;
-    QString backup = forGood ? usual + u".%1"_s.arg(number) : usual;
+    const FileName backup = forGood ? usual.with(u".%1"_s.arg(number)) : usual;
     FileReplacement(backup, target).commit(content);
     return backup;
 }

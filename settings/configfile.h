@@ -22,9 +22,9 @@ class ConfigFile
 public:
     /// Reads `path`, whose form is told by its first character: XML begins with "<". A file that is not there
     /// reads as empty text form. Throws a CommandError (Unreadable) with the place of the trouble.
-    explicit ConfigFile(const QString &path);
+    explicit ConfigFile(const FileName &path);
 
-    const QString path;
+    const FileName path;
     bool exists() const { return isThere; }
     /// One of `form`.
     QString type() const { return form; }
@@ -51,9 +51,9 @@ public:
 
     /// Writes the tree through `replacement`, which locks this file, and keeps the old file beside it: as
     /// "<name>.bak", or, when something of it is lost, as "<name>.bak.<n>" which is never overwritten;
-    /// returns the latter's path, "" when there is none. Throws a CommandError; WouldLose unless `force` when
-    /// `losses()` names any.
-    QString save(FileReplacement &replacement, bool force);
+    /// returns the latter, an empty name when there is none. Throws a CommandError; WouldLose unless `force`
+    /// when `losses()` names any.
+    FileName save(FileReplacement &replacement, bool force);
 
 private:
     void read();
@@ -69,11 +69,11 @@ private:
 };
 
 /// All of the regular file `path`. Throws a CommandError (Unreadable), also when only a part can be read.
-QByteArray bytesOf(const QString &path);
+QByteArray bytesOf(const FileName &path);
 
 /// Keeps `content`, what the file `path` holds, beside it: as "<name>.bak", or `forGood` as "<name>.bak.<n>",
-/// which is never overwritten. Returns the path of the backup. Throws a CommandError.
-QString keepBackup(const QString &path, const QByteArray &content, bool forGood);
+/// which is never overwritten. Returns the backup. Throws a CommandError.
+FileName keepBackup(const FileName &path, const QByteArray &content, bool forGood);
 
 /// The first setting, as a dotted path, in which two trees differ: the pairs of their roots and everything in
 /// their first blocks, where an empty block counts as none. "" when they are equal.

@@ -3,9 +3,6 @@
 #include "commanderror.h"
 
 #include <QDeadlineTimer>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
@@ -28,52 +25,62 @@ constexpr std::chrono::seconds patience(2);
 constexpr std::chrono::milliseconds interval(10);
 
 /// Whether `path` leads to the open `file`.
-bool isNamed(int file, const QByteArray &path)
+bool isNamed(int file, const FileName &path)
 {
     struct stat open = {};
     struct stat named = {};
-    return ::fstat(file, &open) == 0 && ::stat(path.constData(), &named) == 0 &&
-           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+    return ::fstat(file, &open) == 0 && ::stat(path.system(), &named) == 0 && open.st_dev == named.st_dev &&
+           open.st_ino == named.st_ino;
 }
 
 /// Brings the names in a folder to the disk. Some file systems cannot, and then keep them in another way.
-void syncFolder(const QString &path)
+void syncFolder(const FileName &path)
 {
-    const int folder = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int folder = ::open(path.system(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0)
         return;
     ::fsync(folder);
     ::close(folder);
 }
 
-} // namespace
-
-QString behindLinks(const QString &path)
+/// The hidden file in the same folder that takes the new content.
+FileName besides(const FileName &path)
 {
-    const QFileInfo info(path);
-    if (info.isSymLink() && !info.exists())
-        throw CommandError(ExitCode::Unreadable, path, u"the link leads to no file; mend or remove it"_s);
-    return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    const std::string hidden = "." + path.path().filename().string() + ".new";
+    return path.path().parent_path() / hidden;
 }
 
-FileReplacement::FileReplacement(const QString &of) : FileReplacement(of, behindLinks(of)) {}
+} // namespace
 
-FileReplacement::FileReplacement(const QString &of, const QString &model) : path(behindLinks(of))
+FileName behindLinks(const FileName &path)
 {
-    const QFileInfo info(path);
+    std::error_code error;
+    if (path.exists())
+        return std::filesystem::canonical(path.path(), error);
+    if (std::filesystem::is_symlink(std::filesystem::symlink_status(path.path(), error)))
+        throw CommandError(ExitCode::Unreadable, path, u"the link leads to no file; mend or remove it"_s);
+    return std::filesystem::absolute(path.path(), error);
+}
+
+FileReplacement::FileReplacement(const FileName &of) : FileReplacement(of, behindLinks(of)) {}
+
+FileReplacement::FileReplacement(const FileName &of, const FileName &model)
+    : path(behindLinks(of)), newPath(besides(path))
+{
     // A device or a pipe would be a plain file from then on.
-    if (const QFileInfo given(of); given.exists() && !given.isFile())
+    if (of.exists() && !of.isRegularFile())
         throw CommandError(ExitCode::WriteFailed, of, u"it is no regular file; give one"_s);
-    newPath = QFile::encodeName(info.absolutePath() + "/."_L1 + info.fileName() + ".new"_L1);
-    if (info.exists() && ::access(QFile::encodeName(path).constData(), W_OK) != 0)
+    if (path.exists() && ::access(path.system(), W_OK) != 0)
         fail(u"the file may not be written"_s);
-    if (!QDir().mkpath(info.absolutePath()))
+    std::error_code error;
+    std::filesystem::create_directories(path.path().parent_path(), error);
+    if (error)
         fail(u"its folder cannot be made"_s);
     lock();
     try {
         takeOver(model);
     } catch (...) { // no destructor runs for what was never constructed
-        ::unlink(newPath.constData());
+        ::unlink(newPath.system());
         ::close(file);
         throw;
     }
@@ -82,7 +89,7 @@ FileReplacement::FileReplacement(const QString &of, const QString &model) : path
 FileReplacement::~FileReplacement()
 {
     if (!committed)
-        ::unlink(newPath.constData());
+        ::unlink(newPath.system());
     ::close(file); // last: this gives the lock away
 }
 
@@ -100,9 +107,9 @@ void FileReplacement::lock()
 
 bool FileReplacement::tryLock()
 {
-    file = ::open(newPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ownerOnly);
+    file = ::open(newPath.system(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ownerOnly);
     if (file < 0)
-        fail(u"%1 cannot be opened (%2)"_s.arg(QFile::decodeName(newPath), qt_error_string(errno)));
+        fail(u"%1 cannot be opened (%2)"_s.arg(newPath.shown(), qt_error_string(errno)));
     const int reason = ::flock(file, LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
     // Between opening and locking, another program may have finished: then its file has moved on to be the
     // configuration itself, and this lock is worth nothing.
@@ -114,13 +121,13 @@ bool FileReplacement::tryLock()
     return false;
 }
 
-void FileReplacement::takeOver(const QString &model)
+void FileReplacement::takeOver(const FileName &model)
 {
     struct stat old = {};
     struct stat made = {};
     if (::fstat(file, &made) != 0 || ::ftruncate(file, 0) != 0)
         fail(qt_error_string(errno));
-    if (::stat(QFile::encodeName(model).constData(), &old) != 0)
+    if (::stat(model.system(), &old) != 0)
         return;
     if ((old.st_uid != made.st_uid || old.st_gid != made.st_gid) &&
         ::fchown(file, old.st_uid, old.st_gid) != 0)
@@ -145,10 +152,10 @@ void FileReplacement::writeAll(const QByteArray &content)
 void FileReplacement::commit(const QByteArray &content)
 {
     writeAll(content);
-    if (std::rename(newPath.constData(), QFile::encodeName(path).constData()) != 0)
+    if (std::rename(newPath.system(), path.system()) != 0)
         fail(qt_error_string(errno));
     committed = true;
-    syncFolder(QFileInfo(path).absolutePath());
+    syncFolder(path.path().parent_path());
 }
 
 void FileReplacement::fail(const QString &what) const

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "filename.h"
+
 #include <QByteArray>
-#include <QString>
 
 /// Puts a new file in the place of an old one: whoever looks, or pulls the plug, finds the old file or the
 /// new one, whole.
@@ -19,9 +20,9 @@ public:
     /// Takes the lock on `path`. Throws a CommandError: Busy when another program holds it and does not give
     /// it away within two seconds, WriteFailed when the file or its folder cannot be written, or what is
     /// there is no regular file. Folders that are missing are made.
-    explicit FileReplacement(const QString &path);
+    explicit FileReplacement(const FileName &path);
     /// The same; the new file takes owner and permissions of `model`, which exists.
-    FileReplacement(const QString &path, const QString &model);
+    FileReplacement(const FileName &path, const FileName &model);
     FileReplacement(const FileReplacement &) = delete;
     FileReplacement &operator=(const FileReplacement &) = delete;
     /// Without a commit everything is as before.
@@ -34,16 +35,16 @@ private:
     void lock();
     /// False when another program holds the lock, or held it until now.
     bool tryLock();
-    void takeOver(const QString &model);
+    void takeOver(const FileName &model);
     void writeAll(const QByteArray &content);
     [[noreturn]] void fail(const QString &what) const;
 
-    QString path;
-    QByteArray newPath;
+    FileName path;
+    FileName newPath;
     int file = -1;
     bool committed = false;
 };
 
 /// Where a link leads, for any number of links; `path` itself when it is none. Throws a CommandError
 /// (Unreadable) when it leads nowhere.
-QString behindLinks(const QString &path);
+FileName behindLinks(const FileName &path);

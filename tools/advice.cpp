@@ -8,9 +8,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void printNoteAt(const QString &file, libconfig::Position at, const QString &text)
+void printNoteAt(const FileName &file, libconfig::Position at, const QString &text)
 {
-    printNote(u"%1:%2:%3"_s.arg(file).arg(at.line).arg(at.column), text);
+    printNote(u"%1:%2:%3"_s.arg(file.shown()).arg(at.line).arg(at.column), text);
 }
 
 } // namespace
@@ -26,7 +26,7 @@ void tellLosses(ConfigFile &file, const QString &as)
     for (const Loss &loss : file.losses())
         printNoteAt(file.path, loss.at, u"lost: %1"_s.arg(loss.what));
     if (const QString changed = file.changedIn(as); !changed.isEmpty())
-        printNote(u"%1: \"%2\" does not survive"_s.arg(file.path, changed));
+        printNote(u"%1: \"%2\" does not survive"_s.arg(file.path.shown(), changed));
 }
 
 QString shellWord(const QString &text)

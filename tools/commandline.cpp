@@ -4,8 +4,6 @@
 #include "spelling.h"
 #include "terminal.h"
 
-#include <QFile>
-
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -196,13 +194,13 @@ QString CommandLine::value(QAnyStringView option) const
     return found ? fromTerminal(found->value) : QString();
 }
 
-QString CommandLine::file(QAnyStringView option) const
+FileName CommandLine::file(QAnyStringView option) const
 {
     const Given *found = last(option);
     if (found && found->value.isEmpty())
         throw CommandError(ExitCode::WrongUsage,
                            dashed(*found->option) + " is empty; give the name of a file"_L1);
-    return found ? QFile::decodeName(found->value) : QString();
+    return found ? FileName(found->value) : FileName();
 }
 
 QString CommandLine::argument(qsizetype place) const
@@ -218,11 +216,11 @@ QStringList CommandLine::arguments() const
     return words;
 }
 
-QString CommandLine::fileArgument(qsizetype place) const
+FileName CommandLine::fileArgument(qsizetype place) const
 {
     if (plain.value(place).isEmpty())
         throw CommandError(ExitCode::WrongUsage, u"the name of the file is empty; give one"_s);
-    return QFile::decodeName(plain.value(place));
+    return FileName(plain.value(place));
 }
 
 QString usageLine(const Command &command, const QString &program)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "command.h"
+#include "filename.h"
 
 #include <QByteArrayList>
 #include <QStringList>
@@ -30,12 +31,12 @@ public:
     /// What follows the option, "" without it; of several the last.
     QString value(QAnyStringView option) const;
     /// The same as the name of a file. Throws a CommandError (WrongUsage) when it is given and empty.
-    QString file(QAnyStringView option) const;
+    FileName file(QAnyStringView option) const;
 
     /// The plain argument at `place`, "" behind the last one.
     QString argument(qsizetype place) const;
     QStringList arguments() const;
-    QString fileArgument(qsizetype place) const;
+    FileName fileArgument(qsizetype place) const;
 
     /// What the next word would be, null when it may only be an option, or nothing.
     const Argument *expected() const;

@@ -6,7 +6,9 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <filesystem>
 #include <iostream>
+#include <sys/auxv.h>
 #include <unistd.h>
 #include <vector>
 
@@ -14,18 +16,22 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Beside this program; "" where the system does not tell which program this is.
+/// Beside this program, as the system was told to start it; "" where it is not there. Needs no /proc.
 QString besideThis(const QString &name)
 {
-    const QString self = QFile::symLinkTarget(u"/proc/self/exe"_s);
-    const QString path = QFileInfo(self).path() + u'/' + name;
-    return !self.isEmpty() && QFileInfo(path).isExecutable() ? path : QString();
+    const auto *started = reinterpret_cast<const char *>(getauxval(AT_EXECFN));
+    std::error_code error;
+    const std::filesystem::path self = std::filesystem::canonical(started ? started : "", error);
+    const std::filesystem::path path = self.parent_path() / name.toStdString();
+    const QString text = QFile::decodeName(path.c_str());
+    return !error && QFileInfo(text).isExecutable() ? text : QString();
 }
 
 [[noreturn]] void tellMissing(const Companion &companion)
 {
-    throw CommandError(ExitCode::NotInstalled, u"the program %1 is not installed; install the package %2"_s.arg(
-                                                   companion.name, companion.package));
+    throw CommandError(
+        ExitCode::NotInstalled,
+        u"the program %1 is not installed; install the package %2"_s.arg(companion.name, companion.package));
 }
 
 } // namespace
@@ -40,11 +46,10 @@ QString companionPath(const Companion &companion)
     return path;
 }
 
-void becomeCompanion(const Companion &companion, const QStringList &arguments)
+void becomeCompanion(const Companion &companion, const QByteArrayList &arguments)
 {
-    std::vector<QByteArray> words{QFile::encodeName(companionPath(companion))};
-    for (const QString &argument : arguments)
-        words.push_back(QFile::encodeName(argument));
+    QByteArrayList words{QFile::encodeName(companionPath(companion))};
+    words += arguments;
     std::vector<char *> pointers;
     for (QByteArray &word : words)
         pointers.push_back(word.data());

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QByteArrayList>
 #include <QString>
-#include <QStringList>
 
 /// A program of the house that stands in a package of its own, so that `palvestrin` needs none of its
 /// libraries.
@@ -16,4 +16,4 @@ struct Companion
 QString companionPath(const Companion &companion);
 
 /// Goes on as that program; does not return. Throws a CommandError (NotInstalled).
-[[noreturn]] void becomeCompanion(const Companion &companion, const QStringList &arguments);
+[[noreturn]] void becomeCompanion(const Companion &companion, const QByteArrayList &arguments);

@@ -26,9 +26,9 @@ constexpr auto unreadForm = "the programs read this file as text, and it is XML"
 constinit const Command configCommand{
     .name = "config"_L1, .summary = "Find, understand and change settings."_L1, .commands = commands};
 
-QString chosenFile(const CommandLine &line)
+FileName chosenFile(const CommandLine &line)
 {
-    return line.has(u"file") ? line.file(u"file") : PVConfiguration::userFile();
+    return line.has(u"file") ? line.file(u"file") : FileName(PVConfiguration::userFile());
 }
 
 void requireFile(const ConfigFile &file)
@@ -42,7 +42,7 @@ void requireFile(const ConfigFile &file)
 void noteUnreadForm(const CommandLine &line, const ConfigFile &file)
 {
     if (hasUnreadForm(line, file))
-        printNote(u"%1: %2"_s.arg(file.path, unreadForm));
+        printNote(u"%1: %2"_s.arg(file.path.shown(), unreadForm));
 }
 
 void requireReadForm(const CommandLine &line, const ConfigFile &file)
@@ -51,7 +51,7 @@ void requireReadForm(const CommandLine &line, const ConfigFile &file)
         return;
     throw CommandError(ExitCode::Unreadable, file.path,
                        u"%1; make it text: palvestrin config convert --to cfg --force --output %2 %2"_s.arg(
-                           unreadForm, shellWord(file.path)));
+                           unreadForm, shellWord(file.path.shown())));
 }
 
 void requireKnownKey(const QString &key)
@@ -64,8 +64,8 @@ void requireKnownKey(const QString &key)
     throw CommandError(ExitCode::Refused, u"no program reads \"%1\"; %2"_s.arg(key, hint));
 }
 
-void tellBackup(const QString &path)
+void tellBackup(const FileName &path)
 {
     if (!path.isEmpty())
-        printNote(u"the file as it was is kept as %1"_s.arg(path));
+        printNote(u"the file as it was is kept as %1"_s.arg(path.shown()));
 }

@@ -31,7 +31,7 @@ inline constexpr Option showSecretsOption{.name = QLatin1StringView("show-secret
                                           .meaning = QLatin1StringView("Show passwords, too.")};
 
 /// The file that --file names, the user's without it.
-QString chosenFile(const CommandLine &line);
+FileName chosenFile(const CommandLine &line);
 
 /// Throws a CommandError (Unreadable) when the file is not there.
 void requireFile(const ConfigFile &file);
@@ -45,13 +45,13 @@ void requireReadForm(const CommandLine &line, const ConfigFile &file);
 void requireKnownKey(const QString &key);
 
 /// Tells where the old file is kept for good, if it is.
-void tellBackup(const QString &path);
+void tellBackup(const FileName &path);
 
 /// Locks the chosen file, reads it, lets `change` change `key` in the tree, and saves. Throws a CommandError.
 template <typename Change>
 void changeFile(const CommandLine &line, const QString &key, Change change)
 {
-    const QString path = chosenFile(line);
+    const FileName path = chosenFile(line);
     FileReplacement replacement(path);
     ConfigFile file(path);
     requireReadForm(line, file);

@@ -2,8 +2,6 @@
 #include "config.h"
 #include "terminal.h"
 
-#include <QFileInfo>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -27,10 +25,10 @@ QByteArray converted(ConfigFile &file, const QString &to, bool force)
 }
 
 /// Writes the file `path`; with `force` in the place of another, which may be anything and is kept for good.
-void writeOutput(const QString &path, const QByteArray &content, bool force)
+void writeOutput(const FileName &path, const QByteArray &content, bool force)
 {
     FileReplacement replacement(path);
-    if (QFileInfo::exists(path)) {
+    if (path.exists()) {
         if (!force) {
             throw CommandError(
                 ExitCode::WouldLose, path,

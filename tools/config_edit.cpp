@@ -9,9 +9,9 @@ constexpr Option options[] = {fileOption};
 
 ExitCode run(const CommandLine &line)
 {
-    const QString path = chosenFile(line);
+    const FileName path = chosenFile(line);
     requireReadForm(line, ConfigFile(path));
-    becomeCompanion({u"palvestrin-settings"_s, u"palvestrin-desktop"_s}, {u"--file"_s, path});
+    becomeCompanion({u"palvestrin-settings"_s, u"palvestrin-desktop"_s}, {"--file", path.bytes()});
 }
 
 } // namespace

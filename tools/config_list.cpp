@@ -23,7 +23,7 @@ ExitCode run(const CommandLine &line)
     }
     ConfigFile file(chosenFile(line));
     if (!file.exists())
-        printNote(u"there is no file %1; nothing is set"_s.arg(file.path));
+        printNote(u"there is no file %1; nothing is set"_s.arg(file.path.shown()));
     noteUnreadForm(line, file);
     std::vector<ListedKey> keys = listedKeys(file.config(), name);
     if (keys.empty())

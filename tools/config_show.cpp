@@ -31,7 +31,7 @@ ExitCode run(const CommandLine &line)
     ConfigFile file(chosenFile(line));
     requireFile(file);
     noteUnreadForm(line, file);
-    printText(file.path + u'\n');
+    printText(file.path.shown() + u'\n');
     showItems(file.config().root(), 0, line.has(u"show-secrets"));
     return ExitCode::Done;
 }

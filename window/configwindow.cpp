@@ -7,7 +7,6 @@
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QFileInfo>
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QInputDialog>
@@ -49,6 +48,12 @@ public:
     }
 };
 
+/// The name of the file without its folder.
+QString lastOf(const FileName &path)
+{
+    return FileName(path.path().filename()).shown();
+}
+
 QString messagesOf(const CommandError &error)
 {
     QString text;
@@ -89,7 +94,7 @@ bool matches(const QString &key, const QString &value, const QString &text)
 
 } // namespace
 
-ConfigWindow::ConfigWindow(const QString &path)
+ConfigWindow::ConfigWindow(const FileName &path)
     : file(std::make_unique<ConfigFile>(path)), view(libconfig::Config().newConfigListView()),
       search(new QLineEdit), description(new QLabel)
 {
@@ -179,15 +184,16 @@ void ConfigWindow::load()
     view->setCurrentItem(row ? row : view->topLevelItem(0));
     filter(search->text());
     describeCurrent();
-    setWindowTitle(u"%1[*] - Palvestrin settings"_s.arg(QFileInfo(file->path).fileName()));
+    setWindowTitle(u"%1[*] - Palvestrin settings"_s.arg(lastOf(file->path)));
     setWindowModified(false);
-    statusBar()->showMessage(file->exists() ? file->path : u"%1 (new file)"_s.arg(file->path));
+    statusBar()->showMessage(file->exists() ? file->path.shown()
+                                            : u"%1 (new file)"_s.arg(file->path.shown()));
 }
 
 bool ConfigWindow::save()
 {
     commitEdit();
-    QString backup;
+    FileName backup;
     try {
         FileReplacement replacement(file->path);
         ConfigFile current(file->path);
@@ -201,8 +207,9 @@ bool ConfigWindow::save()
         return false;
     }
     load(); // what the file does not hold is not shown
-    statusBar()->showMessage(backup.isEmpty() ? u"Saved %1"_s.arg(file->path)
-                                              : u"Saved; the file as it was is kept as %1"_s.arg(backup));
+    statusBar()->showMessage(backup.isEmpty()
+                                 ? u"Saved %1"_s.arg(file->path.shown())
+                                 : u"Saved; the file as it was is kept as %1"_s.arg(backup.shown()));
     return true;
 }
 
@@ -392,7 +399,7 @@ void ConfigWindow::closeEvent(QCloseEvent *event)
     if (!isWindowModified())
         return event->accept();
     const auto answer = QMessageBox::warning(
-        this, u"Unsaved changes"_s, u"Save the changes to %1?"_s.arg(QFileInfo(file->path).fileName()),
+        this, u"Unsaved changes"_s, u"Save the changes to %1?"_s.arg(lastOf(file->path)),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     const bool mayClose = answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
     event->setAccepted(mayClose);

@@ -19,7 +19,7 @@ class ConfigWindow : public QMainWindow
 {
 public:
     /// Reads the file. Throws a CommandError when it cannot be read.
-    explicit ConfigWindow(const QString &path);
+    explicit ConfigWindow(const FileName &path);
 
     /// False when nothing was written, because of trouble that the user was told of or by their own choice.
     bool save();

@@ -2,6 +2,7 @@
 
 #include "commanderror.h"
 #include "configwindow.h"
+#include "localeencoding.h"
 #include "pvconfiguration.h"
 
 #include <QApplication>
@@ -23,19 +24,35 @@ void requireDisplay()
                        u"there is no display for a window; use \"palvestrin config set\""_s);
 }
 
+/// The file that --file names, as bytes, which the toolkit's parser does not keep; the user's without it.
+/// Throws a CommandError (WrongUsage) when the name is empty.
+FileName chosenFile(int argc, char **argv)
+{
+    FileName chosen = PVConfiguration::userFile();
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray word = argv[i];
+        if (word.startsWith("--file="))
+            chosen = FileName(word.sliced(qstrlen("--file=")));
+        else if (word == "--file" && i + 1 < argc)
+            chosen = FileName(QByteArray(argv[++i]));
+    }
+    if (chosen.isEmpty())
+        throw CommandError(ExitCode::WrongUsage, u"--file is empty; give the name of a file"_s);
+    return chosen;
+}
+
 ExitCode run(int argc, char **argv)
 {
     requireDisplay();
     QApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(u"The settings of Palvestrin Print, in a window."_s);
-    const QCommandLineOption file(u"file"_s, u"Use this configuration instead of the user's."_s, u"FILE"_s,
-                                  PVConfiguration::userFile());
+    const QCommandLineOption file(u"file"_s, u"Use this configuration instead of the user's."_s, u"FILE"_s);
     parser.addOption(file);
     parser.addHelpOption();
     parser.process(application);
 
-    ConfigWindow window(parser.value(file));
+    ConfigWindow window(chosenFile(argc, argv));
     window.show();
     QApplication::exec();
     return ExitCode::Done;
@@ -49,7 +66,7 @@ ExitCode runSettingsProgram(int argc, char **argv)
         return run(argc, argv);
     } catch (const CommandError &error) {
         for (const QString &line : error.messages())
-            std::cerr << line.toStdString() << '\n';
+            std::cerr << LocaleEncoding().encode(line).toStdString() << '\n';
         return error.code();
     }
 }

@@ -204,6 +204,20 @@ Options:
                  "palvestrin: \n{\n    db: \n    {\n        password = \"" + value + "\";\n    };\n\n};\n\n");
     }
 
+    /// The command that needs a screen tells which package has its window.
+    void theWindowIsNotInstalled()
+    {
+        const ScratchFolder folder;
+        const QString alone = folder.path(u"palvestrin"_s);
+        QVERIFY(QFile::copy(QStringLiteral(PALVESTRIN_PROGRAM), alone));
+        const QStringList environment = bareEnvironment(home.path()) + QStringList{u"PATH=/nonexistent"_s};
+        const ProgramRun result = runProgram(alone, {u"config"_s, u"edit"_s}, environment);
+        QCOMPARE(result.exitStatus, 8);
+        QCOMPARE(result.standardError,
+                 "palvestrin: error: the program palvestrin-settings is not installed; install "
+                 "the package palvestrin-desktop\n");
+    }
+
     void aNegativeWidthIsRefusedAsAValue()
     {
         const ProgramRun result =
