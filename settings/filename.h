@@ -4,8 +4,8 @@
 
 #include <filesystem>
 
-/// The name of a file: bytes, as the system has it, in whatever encoding whoever made the file used. The toolkit's
-/// file classes know names in UTF-8 only.
+/// The name of a file: bytes, as the system has it, in whatever encoding whoever made the file used. The
+/// toolkit's file classes know names in UTF-8 only.
 class FileName
 {
 public:
@@ -20,7 +20,8 @@ public:
     /// For the system's own operations; lives as long as this.
     const char *system() const { return name.c_str(); }
     QByteArray bytes() const { return QByteArray(system()); }
-    /// For people: the bytes as characters of the locale, which turn into the same bytes when they are printed.
+    /// For people: the bytes as characters of the locale, which turn into the same bytes when they are
+    /// printed.
     QString shown() const;
 
     bool exists() const;

@@ -1,6 +1,6 @@
 #include "advice.h"
 
-#include "terminal.h"
+#include "console.h"
 
 #include <QRegularExpression>
 

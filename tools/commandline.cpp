@@ -1,8 +1,8 @@
 #include "commandline.h"
 
 #include "commanderror.h"
+#include "console.h"
 #include "spelling.h"
-#include "terminal.h"
 
 #include <algorithm>
 

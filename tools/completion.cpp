@@ -1,8 +1,8 @@
 #include "completion.h"
 
 #include "commandline.h"
+#include "console.h"
 #include "knownkeys.h"
-#include "terminal.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,9 +1,9 @@
 #include "config.h"
 
 #include "commanderror.h"
+#include "console.h"
 #include "knownkeys.h"
 #include "pvconfiguration.h"
-#include "terminal.h"
 
 using namespace Qt::Literals::StringLiterals;
 

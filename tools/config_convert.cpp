@@ -1,6 +1,6 @@
 #include "commanderror.h"
 #include "config.h"
-#include "terminal.h"
+#include "console.h"
 
 using namespace Qt::Literals::StringLiterals;
 

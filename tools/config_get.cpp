@@ -1,7 +1,7 @@
 #include "commanderror.h"
 #include "config.h"
+#include "console.h"
 #include "knownkeys.h"
-#include "terminal.h"
 
 using namespace Qt::Literals::StringLiterals;
 

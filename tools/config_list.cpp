@@ -1,8 +1,8 @@
 #include "config.h"
+#include "console.h"
 #include "keyedit.h"
 #include "knownkeys.h"
 #include "listing.h"
-#include "terminal.h"
 
 using namespace Qt::Literals::StringLiterals;
 

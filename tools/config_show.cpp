@@ -1,7 +1,7 @@
 #include "config.h"
+#include "console.h"
 #include "orderedattributes.h"
 #include "secrets.h"
-#include "terminal.h"
 
 using namespace Qt::Literals::StringLiterals;
 

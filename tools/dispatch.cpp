@@ -2,8 +2,8 @@
 
 #include "commanderror.h"
 #include "commandline.h"
+#include "console.h"
 #include "spelling.h"
-#include "terminal.h"
 
 #include <algorithm>
 

@@ -2,7 +2,6 @@
 
 #include "keyedit.h"
 #include "knownkeys.h"
-#include "printmethods.h"
 #include "secrets.h"
 
 #include <QJsonArray>
@@ -85,54 +84,6 @@ QJsonObject asObject(const ListedKey &key)
     return object;
 }
 
-QString tableRow(const QStringList &cells)
-{
-    return "| "_L1 + cells.join(" | "_L1) + " |\n"_L1;
-}
-
-QString tableHead(const QStringList &titles)
-{
-    return tableRow(titles) + u'|' + u"---|"_s.repeated(titles.size()) + u'\n';
-}
-
-QString code(QLatin1StringView text)
-{
-    return u'`' + text + u'`';
-}
-
-QString applicationKeysTable()
-{
-    QString table = tableHead({u"Key"_s, u"Meaning"_s, u"When missing"_s, u"Read by"_s});
-    for (const vocabulary::ApplicationKey &key : vocabulary::applicationKeys)
-        table += tableRow({code(key.name), key.meaning, key.whenMissing, key.readBy});
-    return table;
-}
-
-QString documentBlocksTable()
-{
-    QString table = tableHead({u"Block"_s, u"Kind"_s, u"Print methods"_s});
-    for (const vocabulary::DocumentKind &kind : vocabulary::documentKinds) {
-        QStringList methods;
-        for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
-            if (method.kind == kind.name)
-                methods += code(method.name);
-        }
-        table += tableRow({code(kind.block), kind.name, methods.join(", "_L1)});
-    }
-    return table;
-}
-
-QString documentSettingsTable()
-{
-    QString table = tableHead({u"Setting"_s, u"Meaning"_s, u"When missing"_s, u"Consulted by"_s});
-    for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings) {
-        const QStringList methods = knownkeys::methodsUsing(setting);
-        table += tableRow({code(setting.name), setting.meaning, knownkeys::whenMissing(setting.kind),
-                           methods.isEmpty() ? u"no print method"_s : u'`' + methods.join("`, `"_L1) + u'`'});
-    }
-    return table;
-}
-
 } // namespace
 
 std::vector<ListedKey> listedKeys(libconfig::Config &config, const QString &name)
@@ -183,9 +134,4 @@ QByteArray asJson(const std::vector<ListedKey> &keys)
     for (const ListedKey &key : keys)
         array.append(asObject(key));
     return QJsonDocument(array).toJson();
-}
-
-QString keysAsMarkdown()
-{
-    return applicationKeysTable() + u'\n' + documentBlocksTable() + u'\n' + documentSettingsTable();
 }

@@ -35,6 +35,3 @@ QString namesOfKnownKeys(const QString &name);
 QString asText(const std::vector<ListedKey> &keys);
 /// An array of objects, indented, in UTF-8.
 QByteArray asJson(const std::vector<ListedKey> &keys);
-
-/// The tables of the chapter "Keys" in docs/configuration.md.
-QString keysAsMarkdown();

@@ -1,8 +1,8 @@
 #include "commanderror.h"
 #include "completion.h"
 #include "config.h"
+#include "console.h"
 #include "dispatch.h"
-#include "terminal.h"
 
 #include <iostream>
 

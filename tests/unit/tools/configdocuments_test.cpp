@@ -1,7 +1,7 @@
-#include "configfile.h"
+#include "config.h"
 #include "exitcode.h"
 #include "keyedit.h"
-#include "listing.h"
+#include "keytables.h"
 #include "program.h"
 #include "scratchfolder.h"
 
@@ -34,19 +34,42 @@ private:
             qFatal("cannot write %s", qPrintable(file.fileName()));
     }
 
-private Q_SLOTS:
-    void theKeysInTheDocumentAreThoseOfTheCode()
+    /// A page as a terminal shows it, in one line with single blanks. Fails the test when the page has
+    /// mistakes.
+    static QString shownManual(const QString &page)
     {
-        const QString name = u"docs/configuration.md"_s;
+        const ProgramRun man =
+            runProgram(u"man"_s, {u"--warnings"_s, u"-l"_s, sourcePath(u"man/"_s + page)},
+                       {u"PATH="_s + qEnvironmentVariable("PATH"), u"MANWIDTH=1000"_s, u"LC_ALL=C.UTF-8"_s});
+        if (!man.failure.isEmpty() || !man.standardError.isEmpty())
+            QTest::qFail((man.failure.toUtf8() + man.standardError).constData(), __FILE__, __LINE__);
+        return QString::fromUtf8(man.standardOutput).simplified();
+    }
+
+private Q_SLOTS:
+    void theKeysInTheDocumentsAreThoseOfTheCode_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("mark"); // %1 is "begin" or "end"
+        QTest::addColumn<QString>("keys");
+        QTest::newRow("document") << u"docs/configuration.md"_s << u"<!-- keys: %1 -->\n"_s
+                                  << keysAsMarkdown();
+        QTest::newRow("manual") << u"man/palvestrin.conf.5"_s << u".\\\" keys: %1\n"_s << keysAsManual();
+    }
+    void theKeysInTheDocumentsAreThoseOfTheCode()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, mark);
+        QFETCH(QString, keys);
         const QString document = textOf(name);
-        const QString begin = u"<!-- keys: begin -->\n"_s;
+        const QString begin = mark.arg(u"begin"_s);
         const qsizetype from = document.indexOf(begin) + begin.size();
-        const qsizetype to = document.indexOf(u"<!-- keys: end -->"_s);
+        const qsizetype to = document.indexOf(mark.arg(u"end"_s));
         QVERIFY(document.contains(begin) && to >= from);
         if (qEnvironmentVariableIsSet("PALVESTRIN_UPDATE"))
-            return rewrite(name, document.first(from) + keysAsMarkdown() + document.sliced(to));
+            return rewrite(name, document.first(from) + keys + document.sliced(to));
         const QStringList written = document.sliced(from, to - from).split(u'\n');
-        const QStringList expected = keysAsMarkdown().split(u'\n');
+        const QStringList expected = keys.split(u'\n');
         for (qsizetype i = 0; i < std::max(written.size(), expected.size()); ++i)
             QCOMPARE(written.value(i), expected.value(i)); // PALVESTRIN_UPDATE=1 writes the tables anew
     }
@@ -65,6 +88,29 @@ private Q_SLOTS:
             "`printPartialOrder`, `printFullOrder`, `printFullOrderReceipt`, "
             "`printFullOrderInvoice`, `printFullOrderDelivery`, `printAbstractOrderInvoice` |\n"_s));
         QVERIFY(tables.contains(u"\n| `paperRows` | rows of a page; no effect | 0 | no print method |\n"_s));
+    }
+
+    void settingsAsTheManualTellsThem()
+    {
+        const QString chapters = keysAsManual();
+        QVERIFY(chapters.startsWith(
+            u".SH SETTINGS OF THE APPLICATION\n"
+            ".TP\n"
+            ".BI palvestrin.language.basedir \" = TEXT\"\n"
+            "directory of the translation files; when missing: \"\". Read by: start\\-up.\n"_s));
+        QVERIFY(chapters.contains(
+            u"\n.TP\n"
+            ".BI palvestrin.logger.type \" = APPEND|OVERWRITE\"\n"
+            "APPEND to the log file or OVERWRITE it, in any case; when missing: no log. Read by: "
+            "logger.\n"_s));
+        QVERIFY(
+            chapters.contains(u"\n.TP\n"
+                              ".B palvestrin.reportdoc\n"
+                              "Report (printReport), Statement of account (printStatementOfAccount).\n"_s));
+        QVERIFY(chapters.contains(
+            u"\n.TP\n"
+            ".BI paperRows \" = NUMBER\"\n"
+            "rows of a page; no effect; when missing: 0. Consulted by: no print method.\n"_s));
     }
 
     void theExampleOfTheGrammarIsReadAndWrittenAsItStands()
@@ -97,6 +143,32 @@ private Q_SLOTS:
                            bareEnvironment(folder.path()));
             QCOMPARE(run.standardError, QByteArray());
             QCOMPARE(run.exitStatus, 0);
+        }
+    }
+
+    /// The manual as a terminal shows it, with nothing to complain about.
+    void everyPageOfTheManualIsInOrder_data()
+    {
+        QTest::addColumn<QString>("page");
+        for (const QString &page : QDir(sourcePath(u"man"_s)).entryList({u"*.1"_s, u"*.5"_s}))
+            QTest::addRow("%s", qPrintable(page)) << page;
+    }
+    void everyPageOfTheManualIsInOrder()
+    {
+        QFETCH(QString, page);
+        QVERIFY(shownManual(page).contains(u" SEE ALSO "_s));
+    }
+
+    void theManualHasEveryCommandAndOption()
+    {
+        const QString page = shownManual(u"palvestrin-config.1"_s);
+        const QString synopsis = page.section(u" SYNOPSIS "_s, 1, 1).section(u" DESCRIPTION "_s, 0, 0);
+        const QString options = page.section(u" OPTIONS "_s, 1, 1).section(u" EXIT STATUS "_s, 0, 0);
+        for (const Command *command : configCommand.commands) {
+            const QString usage = usageLine(*command, u"palvestrin config "_s + command->name);
+            QVERIFY2((synopsis + u' ').contains(usage + u' '), qPrintable(usage));
+            for (const Option &option : command->options)
+                QVERIFY2(options.contains("--"_L1 + option.name + u' '), option.name.data());
         }
     }
 

@@ -1,5 +1,5 @@
-// What palvestrin makes of the bytes that a terminal sends, and what it sends back: proven with locales that the test
-// makes for itself. File names are bytes in all of them.
+// What palvestrin makes of the bytes that a terminal sends, and what it sends back: proven with locales that
+// the test makes for itself. File names are bytes in all of them.
 
 #include "program.h"
 #include "scratchfolder.h"
@@ -40,8 +40,12 @@ private:
     }
     QStringList environment(const QString &locale) const
     {
-        return {u"HOME="_s + home->path(), u"LOCPATH="_s + locales.path(), u"LC_ALL="_s + locale, withoutLeakCheck,
-                u"PROGRAM="_s + QStringLiteral(PALVESTRIN_PROGRAM), u"PATH="_s + qEnvironmentVariable("PATH")};
+        return {u"HOME="_s + home->path(),
+                u"LOCPATH="_s + locales.path(),
+                u"LC_ALL="_s + locale,
+                withoutLeakCheck,
+                u"PROGRAM="_s + QStringLiteral(PALVESTRIN_PROGRAM),
+                u"PATH="_s + qEnvironmentVariable("PATH")};
     }
     /// A shell types `line`, for QProcess hands over UTF-8 only: "$PROGRAM" and `printf` stand in it.
     ProgramRun type(const QString &locale, const QString &line) const
@@ -65,10 +69,12 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("typed");
         QTest::addColumn<QByteArray>("inFile");
         QTest::newRow("latin-1") << u"it_IT.ISO-8859-1"_s << QByteArray("caff\xe8") << QByteArray("caff\xe8");
-        QTest::newRow("latin-9") << u"it_IT.ISO-8859-15"_s << QByteArray("caff\xe8") << QByteArray("caff\xe8");
+        QTest::newRow("latin-9") << u"it_IT.ISO-8859-15"_s << QByteArray("caff\xe8")
+                                 << QByteArray("caff\xe8");
         QTest::newRow("utf-8") << u"it_IT.UTF-8"_s << QByteArray("caff\xc3\xa8") << QByteArray("caff\xe8");
         QTest::newRow("c") << u"C"_s << QByteArray("caff\xc3\xa8") << QByteArray("caff\xe8");
-        QTest::newRow("not installed") << u"fr_FR.ISO-8859-1"_s << QByteArray("caff\xc3\xa8") << QByteArray("caff\xe8");
+        QTest::newRow("not installed")
+            << u"fr_FR.ISO-8859-1"_s << QByteArray("caff\xc3\xa8") << QByteArray("caff\xe8");
         QTest::newRow("utf-8 on a latin-1 terminal")
             << u"it_IT.ISO-8859-1"_s << QByteArray("caff\xc3\xa8") << QByteArray("caff\xc3\xa8");
     }
@@ -80,24 +86,28 @@ private Q_SLOTS:
         QString octal;
         for (const char byte : typed)
             octal += u"\\%1"_s.arg(uchar(byte), 3, 8, QChar(u'0'));
-        const ProgramRun set =
-            type(locale, u"exec \"$PROGRAM\" config set palvestrin.db.dbname \"$(printf '%1')\""_s.arg(octal));
+        const ProgramRun set = type(
+            locale, u"exec \"$PROGRAM\" config set palvestrin.db.dbname \"$(printf '%1')\""_s.arg(octal));
         QCOMPARE(set.standardError, QByteArray());
         QCOMPARE(stored(), fileWithName(inFile));
         const ProgramRun got = type(locale, u"exec \"$PROGRAM\" config get palvestrin.db.dbname"_s);
         QCOMPARE(got.standardOutput, typed + '\n');
-        QVERIFY(type(locale, u"exec \"$PROGRAM\" config show"_s).standardOutput.endsWith(" = " + typed + '\n'));
+        QVERIFY(
+            type(locale, u"exec \"$PROGRAM\" config show"_s).standardOutput.endsWith(" = " + typed + '\n'));
     }
 
     void whatTheTextFormCannotHoldIsTold()
     {
-        const ProgramRun euro = type(u"it_IT.ISO-8859-15"_s,
-                                     u"exec \"$PROGRAM\" config set palvestrin.db.dbname \"$(printf '5 \\244')\""_s);
+        const ProgramRun euro =
+            type(u"it_IT.ISO-8859-15"_s,
+                 u"exec \"$PROGRAM\" config set palvestrin.db.dbname \"$(printf '5 \\244')\""_s);
         QCOMPARE(euro.standardError, "palvestrin: error: a value cannot hold '\xa4'; leave it out\n");
         QCOMPARE(euro.exitStatus, 3);
         const ProgramRun broken =
-            type(u"it_IT.UTF-8"_s, u"exec \"$PROGRAM\" config set palvestrin.db.dbname \"$(printf 'caff\\350')\""_s);
-        QCOMPARE(broken.standardError, "palvestrin: error: a value cannot hold '\xef\xbf\xbd'; leave it out\n");
+            type(u"it_IT.UTF-8"_s,
+                 u"exec \"$PROGRAM\" config set palvestrin.db.dbname \"$(printf 'caff\\350')\""_s);
+        QCOMPARE(broken.standardError,
+                 "palvestrin: error: a value cannot hold '\xef\xbf\xbd'; leave it out\n");
         QCOMPARE(broken.exitStatus, 3);
     }
 
@@ -117,7 +127,8 @@ private Q_SLOTS:
         QDir(home->path()).mkpath(u".palvestrin/conf"_s);
         home->write(u".palvestrin/conf/palvestrin.conf"_s, fileWithName("caff\xe8"));
         for (const QString &locale : {u"it_IT.ISO-8859-1"_s, u"it_IT.UTF-8"_s, u"C"_s}) {
-            const ProgramRun list = type(locale, u"exec \"$PROGRAM\" config list --json palvestrin.db.dbname"_s);
+            const ProgramRun list =
+                type(locale, u"exec \"$PROGRAM\" config list --json palvestrin.db.dbname"_s);
             QVERIFY2(list.standardOutput.contains("\"value\": \"caff\xc3\xa8\","), list.standardOutput);
         }
     }
@@ -125,31 +136,36 @@ private Q_SLOTS:
     void fileNamesAreBytes_data()
     {
         QTest::addColumn<QString>("locale");
-        for (const QString &locale : {u"it_IT.ISO-8859-1"_s, u"it_IT.ISO-8859-15"_s, u"it_IT.UTF-8"_s, u"C"_s})
+        for (const QString &locale :
+             {u"it_IT.ISO-8859-1"_s, u"it_IT.ISO-8859-15"_s, u"it_IT.UTF-8"_s, u"C"_s})
             QTest::addRow("%s", qPrintable(locale)) << locale;
     }
-    /// The name and its folder are no UTF-8, in whatever locale; everything that is made beside it is named alike.
+    /// The name and its folder are no UTF-8, in whatever locale; everything that is made beside it is named
+    /// alike.
     void fileNamesAreBytes()
     {
         QFETCH(QString, locale);
-        const ProgramRun run = type(locale, u"name=$(printf 'caff\\350/conto-\\350\\377.conf')\n"
-            "other=$(printf 'altro-\\350.xml')\n"
-            "\"$PROGRAM\" config set --file \"$name\" palvestrin.db.dbname one &&\n"
-            "\"$PROGRAM\" config set --file=\"$name\" palvestrin.db.dbname two &&\n"
-            "printf '# remark' >>\"$name\" &&\n"
-            "\"$PROGRAM\" config set --file \"$name\" --force palvestrin.db.dbname three 2>&1 &&\n"
-            "\"$PROGRAM\" config convert --to xml --force --output \"$other\" \"$name\" 2>/dev/null &&\n"
-            "\"$PROGRAM\" config show --file \"$name\" | head -n 1\n"
-            "find . -type f | LC_ALL=C sort\n"
-            "\"$PROGRAM\" config get --file \"$other\" palvestrin.db.dbname\n"
-            "rm -r \"$other\" \"$(dirname \"$name\")\""_s); // the toolkit cannot remove them
+        const ProgramRun run =
+            type(locale,
+                 u"name=$(printf 'caff\\350/conto-\\350\\377.conf')\n"
+                 "other=$(printf 'altro-\\350.xml')\n"
+                 "\"$PROGRAM\" config set --file \"$name\" palvestrin.db.dbname one &&\n"
+                 "\"$PROGRAM\" config set --file=\"$name\" palvestrin.db.dbname two &&\n"
+                 "printf '# remark' >>\"$name\" &&\n"
+                 "\"$PROGRAM\" config set --file \"$name\" --force palvestrin.db.dbname three 2>&1 &&\n"
+                 "\"$PROGRAM\" config convert --to xml --force --output \"$other\" \"$name\" 2>/dev/null &&\n"
+                 "\"$PROGRAM\" config show --file \"$name\" | head -n 1\n"
+                 "find . -type f | LC_ALL=C sort\n"
+                 "\"$PROGRAM\" config get --file \"$other\" palvestrin.db.dbname\n"
+                 "rm -r \"$other\" \"$(dirname \"$name\")\""_s); // the toolkit cannot remove them
         const bool isUtf8 = !locale.contains("8859"_L1);
         const QByteArray replaced = "\xef\xbf\xbd";
         const QByteArray e = isUtf8 ? replaced : QByteArray("\xe8"); // as messages show it
         const QByteArray y = isUtf8 ? replaced : QByteArray("\xff");
         const QByteArray folder = home->path().toUtf8();
-        QCOMPARE(run.standardOutput, "palvestrin: note: the file as it was is kept as " + folder + "/caff" + e +
-                                         "/conto-" + e + y + ".conf.bak.1\n" + "caff" + e + "/conto-" + e + y +
+        QCOMPARE(run.standardOutput, "palvestrin: note: the file as it was is kept as " + folder + "/caff" +
+                                         e + "/conto-" + e + y + ".conf.bak.1\n" + "caff" + e + "/conto-" +
+                                         e + y +
                                          ".conf\n"
                                          "./altro-\xe8.xml\n"
                                          "./caff\xe8/conto-\xe8\xff.conf\n"
@@ -162,14 +178,15 @@ private Q_SLOTS:
 
     void theWindowIsGivenTheBytesOfTheName()
     {
-        const ProgramRun run = type(u"it_IT.UTF-8"_s, u"name=$(printf 'conto-\\350.conf')\n"
-            "printf 'palvestrin: {' >\"$name\"\n"
-            "mkdir bin\n"
-            "cp \"$PROGRAM\" bin/palvestrin\n"
-            "printf '#!/bin/sh\\nprintf \"<%%s>\" \"$@\"' >bin/palvestrin-settings\n"
-            "chmod +x bin/palvestrin-settings\n"
-            "bin/palvestrin config edit --file \"$name\"\n"
-            "rm \"$name\""_s);
+        const ProgramRun run =
+            type(u"it_IT.UTF-8"_s, u"name=$(printf 'conto-\\350.conf')\n"
+                                   "printf 'palvestrin: {' >\"$name\"\n"
+                                   "mkdir bin\n"
+                                   "cp \"$PROGRAM\" bin/palvestrin\n"
+                                   "printf '#!/bin/sh\\nprintf \"<%%s>\" \"$@\"' >bin/palvestrin-settings\n"
+                                   "chmod +x bin/palvestrin-settings\n"
+                                   "bin/palvestrin config edit --file \"$name\"\n"
+                                   "rm \"$name\""_s);
         QCOMPARE(run.standardOutput, QByteArray("<--file><conto-\xe8.conf>"));
         QCOMPARE(run.standardError, QByteArray());
     }
@@ -185,8 +202,9 @@ private Q_SLOTS:
         QCOMPARE(set.standardOutput + set.standardError, QByteArray());
         QCOMPARE(stored(), fileWithName("shop"));
         QCOMPARE(type(u"C"_s, program + u"get palvestrin.db.dbname"_s).standardOutput, QByteArray("shop\n"));
-        QCOMPARE(type(u"C"_s, program + u"convert --to cfg .palvestrin/conf/palvestrin.conf"_s).standardOutput,
-                 fileWithName("shop"));
+        QCOMPARE(
+            type(u"C"_s, program + u"convert --to cfg .palvestrin/conf/palvestrin.conf"_s).standardOutput,
+            fileWithName("shop"));
         // The window's program is found beside this one, and says what it says without a display.
         const ProgramRun edit = type(u"C"_s, program + u"edit"_s);
         QCOMPARE(edit.standardError,

@@ -1,4 +1,4 @@
-#include "terminal.h"
+#include "console.h"
 
 #include "commanderror.h"
 #include "localeencoding.h"
