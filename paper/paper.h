@@ -25,6 +25,8 @@ struct Style
 /// One character, its style, and whether the stream is broken at it.
 struct Cell
 {
+    /// Never a control character: readers put its picture there (U+2400 and on), and U+FFFD for what is no
+    /// character at all. So each painter may write it as it stands.
     char32_t character = U' ';
     Style style;
     bool isBroken = false; ///< the reader found a fault here
@@ -55,6 +57,9 @@ public:
     virtual void beginStrip(StripKind kind) = 0;
     virtual void row(const Row &row) = 0;
     virtual void event(Event event) = 0;
+    /// Tells what is not on the paper but about it: the sum that a register will show. For people; a painter
+    /// that shows rows only leaves it out.
+    virtual void remark(const QString &text) = 0;
     virtual void endStrip() = 0;
 };
 
