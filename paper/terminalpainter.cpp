@@ -103,7 +103,7 @@ void TerminalPainter::title(const QString &text)
 void TerminalPainter::beginStrip(StripKind kind)
 {
     isPaper = kind == StripKind::Paper;
-    width = widths.empty() ? defaultWidth : widths.at(std::min(strip, widths.size() - 1));
+    width = isPaper && !widths.empty() ? widths.at(std::min(strip, widths.size() - 1)) : defaultWidth;
     ++strip;
     separate();
     if (showsBlanks)
@@ -130,18 +130,22 @@ void TerminalPainter::event(Event event)
 
 void TerminalPainter::remark(const QString &text)
 {
-    for (const QString &line :
-         wrapped(text, screenColumns == 0 ? 0 : std::max(1, screenColumns - margin - 1))) {
-        beginRow(false);
-        out.look(lookOfMeaning);
-        out.put(line);
-        out.endLine();
-    }
+    remarks += text;
 }
 
 void TerminalPainter::endStrip()
 {
     drawEdge(glyphs.bottomLeft, glyphs.bottomRight);
+    const int indent = isFramed() ? margin + 1 : 0;
+    const int room = screenColumns == 0 ? 0 : std::max(1, screenColumns - indent);
+    for (const QString &remark : std::exchange(remarks, {})) {
+        for (const QString &line : wrapped(remark, room)) {
+            out.fill(U' ', indent);
+            out.look(lookOfMeaning);
+            out.put(line);
+            out.endLine();
+        }
+    }
 }
 
 /// Whether the terminal has room for the frame, and for one column that runs over it.

@@ -3,6 +3,8 @@
 #include "paper.h"
 #include "terminalwriter.h"
 
+#include <QStringList>
+
 #include <ostream>
 #include <string>
 #include <vector>
@@ -55,6 +57,7 @@ private:
     int width = 0;         ///< of the strip at hand
     bool isPaper = true;   ///< it has an edge, where a row ends
     bool isFirst = true;
+    QStringList remarks; ///< about the strip at hand
 };
 
 } // namespace paper

@@ -6,9 +6,8 @@
 
 namespace {
 
-QTextCodec *codecOfTheRun()
+QTextCodec *codecOf(const QByteArray &codeset)
 {
-    const QByteArray codeset = runlocale::codeset();
     // What the C library calls the POSIX locale's encoding.
     QTextCodec *codec = codeset == "ANSI_X3.4-1968" ? nullptr : QTextCodec::codecForName(codeset);
     return codec ? codec : QTextCodec::codecForName("UTF-8");
@@ -16,7 +15,12 @@ QTextCodec *codecOfTheRun()
 
 } // namespace
 
-LocaleEncoding::LocaleEncoding() : codec(codecOfTheRun()) {}
+LocaleEncoding::LocaleEncoding() : codec(codecOf(runlocale::codeset())) {}
+
+LocaleEncoding::LocaleEncoding(const QByteArray &locale)
+    : codec(codecOf(locale.isEmpty() ? runlocale::codeset() : runlocale::codesetOf(locale)))
+{
+}
 
 QByteArray LocaleEncoding::encode(const QString &text) const
 {
@@ -26,4 +30,9 @@ QByteArray LocaleEncoding::encode(const QString &text) const
 QString LocaleEncoding::decode(const QByteArray &bytes) const
 {
     return codec->toUnicode(bytes);
+}
+
+QByteArray LocaleEncoding::name() const
+{
+    return codec->name();
 }

@@ -14,12 +14,16 @@ class LocaleEncoding
 {
 public:
     LocaleEncoding();
+    /// The same of the locale of that name, such as "it_IT.ISO-8859-15", as if the program had been started
+    /// in it. "" stands for the locale of the run.
+    explicit LocaleEncoding(const QByteArray &locale);
 
     /// `text` as bytes; a character that the encoding lacks becomes one '?'.
     QByteArray encode(const QString &text) const;
-
     /// `bytes` as text; what is no character of the encoding becomes U+FFFD.
     QString decode(const QByteArray &bytes) const;
+    /// What the encoding is called, for those who read what was encoded.
+    QByteArray name() const;
 
 private:
     QTextCodec *codec; ///< owned by the toolkit

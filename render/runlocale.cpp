@@ -28,7 +28,12 @@ QString runlocale::name()
 
 QByteArray runlocale::codeset()
 {
-    const locale_t locale = newlocale(LC_CTYPE_MASK, fullName().constData(), nullptr);
+    return codesetOf(fullName());
+}
+
+QByteArray runlocale::codesetOf(const QByteArray &localeName)
+{
+    const locale_t locale = newlocale(LC_CTYPE_MASK, localeName.constData(), nullptr);
     if (!locale)
         return {};
     const QByteArray codeset = nl_langinfo_l(CODESET, locale);

@@ -15,5 +15,7 @@ QString name();
 
 /// The encoding in the C library's words, such as "ISO-8859-15"; "" when the machine has no such locale.
 QByteArray codeset();
+/// The same of the locale of that name.
+QByteArray codesetOf(const QByteArray &localeName);
 
 } // namespace runlocale

@@ -35,6 +35,9 @@ public:
         lines.push_back(errorLine(file.shown() + place, message));
     }
 
+    /// A message that belongs to no file.
+    void add(const QString &message) { lines.push_back(errorLine(QStringLiteral("palvestrin"), message)); }
+
     ExitCode code() const { return exitCode; }
     /// Whole lines of the form "file:line:column: error: what, and what instead", without line ends.
     const std::vector<QString> &messages() const { return lines; }

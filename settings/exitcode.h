@@ -15,6 +15,7 @@ enum class ExitCode {
     Busy = 6,
     WriteFailed = 7,
     NotInstalled = 8,
+    Broken = 9,
 };
 
 struct ExitCodeMeaning
@@ -30,7 +31,7 @@ inline constexpr std::array exitCodeMeanings{
     ExitCodeMeaning{ExitCode::Refused,
                     QLatin1StringView("The key is unknown, or the value cannot be stored under it.")},
     ExitCodeMeaning{ExitCode::Unreadable,
-                    QLatin1StringView("A file cannot be read, or is no configuration.")},
+                    QLatin1StringView("A file cannot be read, or is not of the kind that is wanted.")},
     ExitCodeMeaning{ExitCode::WouldLose,
                     QLatin1StringView("Writing would lose something of the file; nothing was done.")},
     ExitCodeMeaning{ExitCode::Busy,
@@ -40,4 +41,6 @@ inline constexpr std::array exitCodeMeanings{
     ExitCodeMeaning{
         ExitCode::NotInstalled,
         QLatin1StringView("A part of the house is not installed; the message names its package.")},
+    ExitCodeMeaning{ExitCode::Broken,
+                    QLatin1StringView("An output has faults; it was shown all the same, as far as it goes.")},
 };

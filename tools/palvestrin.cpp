@@ -3,6 +3,7 @@
 #include "config.h"
 #include "console.h"
 #include "dispatch.h"
+#include "preview.h"
 
 #include <iostream>
 
@@ -10,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr const Command *commands[] = {&configCommand};
+constexpr const Command *commands[] = {&configCommand, &previewCommand};
 
 constexpr Command palvestrin{.name = "palvestrin"_L1, .commands = commands};
 

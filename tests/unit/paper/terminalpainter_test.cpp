@@ -86,8 +86,8 @@ private Q_SLOTS:
                  "                ^\n"
                  "! │HEL       │\n"
                  "     ^\n"
-                 "  │The output is cut off here.\n"
-                 "  └──────────┘\n");
+                 "  └──────────┘\n"
+                 "   The output is cut off here.\n");
     }
 
     void colours()
@@ -119,30 +119,40 @@ private Q_SLOTS:
 
     void commandsHaveTheirMeaningBeside()
     {
-        QCOMPARE(shown("\n\"PIZZA\"3*650H2R\r\n1950H1T\nhello\"@\n", screenOf(0), {32}),
+        QCOMPARE(shown("\n\"PIZZA\"3*650H2R\r\n1950H1T\nhello\"@\n", screenOf(0), {40}),
                  "  ┌─ to the cash register ─────────┐\n"
                  "  │\"PIZZA\"3*650H2R                 │ sale: 3 x PIZZA at 6.50 = 19.50, department 2\n"
                  "  │1950H1T                         │ cash: 19.50\n"
                  "  │hello                           │\n"
-                 "  │The register will show 19.50. Settled by cash 19.50.\n"
-                 "  └────────────────────────────────┘\n");
+                 "  └────────────────────────────────┘\n"
+                 "   The register will show 19.50. Settled by cash 19.50.\n");
+    }
+
+    void commandsHaveNoEdge()
+    {
+        QCOMPARE(
+            shown("\n\"A name of thirty-two characters!\"1*100H1R\r\n", screenOf(0)),
+            "  ┌─ to the cash register ─────────┐\n"
+            "  │\"A name of thirty-two characters!\"1*100H1R sale: 1 x A name of thirty-two characters! at "
+            "1.00, department 1\n"
+            "  └────────────────────────────────┘\n"
+            "   The register will show 1.00.\n");
     }
 
     void meaningsAreFoldedToTheScreen()
     {
-        QCOMPARE(shown("\n\"PIZZA\"3*650H2R\r\n", screenOf(44), {16}),
-                 "  ┌─ to the cash register \n"
-                 "  │\"PIZZA\"3*650H2R │ sale: 3 x PIZZA at 6.50\n"
-                 "  │                │ = 19.50, department 2\n"
-                 "  │The register will show 19.50.\n"
-                 "  └────────────────┘\n");
-        QCOMPARE(shown("\n\"PIZZA\"3*650H2R\r\n", screenOf(30), {16}), "  ┌─ to the cash register \n"
-                                                                       "  │\"PIZZA\"3*650H2R │\n"
-                                                                       "    sale: 3 x PIZZA at 6.50 =\n"
-                                                                       "    19.50, department 2\n"
-                                                                       "  │The register will show\n"
-                                                                       "  │19.50.\n"
-                                                                       "  └────────────────┘\n");
+        QCOMPARE(shown("\n\"PIZZA\"3*650H2R\r\n", screenOf(60)),
+                 "  ┌─ to the cash register ─────────┐\n"
+                 "  │\"PIZZA\"3*650H2R                 │ sale: 3 x PIZZA at 6.50\n"
+                 "  │                                │ = 19.50, department 2\n"
+                 "  └────────────────────────────────┘\n"
+                 "   The register will show 19.50.\n");
+        QCOMPARE(shown("\n\"PIZZA\"3*650H2R\r\n", screenOf(38)), "  ┌─ to the cash register ─────────┐\n"
+                                                                 "  │\"PIZZA\"3*650H2R                 │\n"
+                                                                 "    sale: 3 x PIZZA at 6.50 = 19.50,\n"
+                                                                 "    department 2\n"
+                                                                 "  └────────────────────────────────┘\n"
+                                                                 "   The register will show 19.50.\n");
     }
 
     void noFrameOnANarrowTerminal()
@@ -161,11 +171,10 @@ private Q_SLOTS:
                  "    = 2.00,\n"
                  "    departmen\n"
                  "    t 1\n"
-                 "The\n"
-                 "register\n"
+                 "─────────────\n"
+                 "The register\n"
                  "will show\n"
-                 "2.00.\n"
-                 "─────────────\n");
+                 "2.00.\n");
     }
 
     void showsBlanks()
