@@ -9,6 +9,7 @@ namespace paper {
 namespace {
 
 constexpr auto rowEnd = "\"@"_L1;
+constexpr auto saleEnd = "R\r"_L1;
 
 qint64 columnBehind(QStringView text)
 {
@@ -158,15 +159,17 @@ void StreamReader::addCommand(const TextLine &line, qsizetype length, const Regi
 
 void StreamReader::addBrokenCommand(const TextLine &line, qsizetype length)
 {
-    const bool goesOn = isLineOpen || line.text.startsWith(u'"'); // a description with a line feed in it
+    // A line feed in a text of a sale breaks it in two.
+    const bool isBroken = isLineOpen || line.text.startsWith(u'"');
+    const bool goesOn = isBroken && !(isLineOpen && line.text.endsWith(saleEnd));
     rows.begin(line);
-    if (!goesOn)
+    if (!isBroken)
         rows.tell(u"no command of the register"_s);
     rows.addUntil(goesOn ? line.text.size() : length, false);
-    if (!goesOn) {
+    if (!isBroken)
         rows.markAll();
+    if (!goesOn)
         sum.addUnread();
-    }
     endRow(line, !goesOn);
 }
 

@@ -108,6 +108,8 @@ FileName chosenConfiguration(const CommandLine &line)
 /// The renderer would take a locale that is not there for one in UTF-8, without a word.
 QByteArray chosenLocale(const CommandLine &line)
 {
+    if (!line.has(u"locale"))
+        return {};
     const QByteArray name = line.value(u"locale").toUtf8();
     const locale_t locale = newlocale(LC_ALL_MASK, name.constData(), nullptr);
     if (!locale) {

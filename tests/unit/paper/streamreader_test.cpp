@@ -270,6 +270,15 @@ void StreamReaderTest::registerCommands_data()
                "|500H1T| cash: 5.00\n"
                "remark: The register will show 19.50. Settled by cash 5.00: 14.50 less than the sum.\nend\n")
         << QByteArray("2:5: a line break inside a line; the printer may take it for the end of the line\n");
+    QTest::newRow("line breaks behind a description")
+        << QByteArray("\n\"\"*100H\r\nR\r\n500H1T\n")
+        << QByteArray(
+               "register\n|\"\"*100H[\xe2\x90\x8d][\xe2\x90\x8a]|\n|R|\n|500H1T| cash: 5.00\n"
+               "remark: The register will show 0.00. Settled by cash 5.00: 5.00 more than the sum. Not "
+               "counted: 1 command that could not be read.\nend\n")
+        << QByteArray(
+               "2:8: the control character U+000D inside a line; the printer may take it for a command\n"
+               "2:9: a line break inside a line; the printer may take it for the end of the line\n");
     QTest::newRow("an escape in a description")
         << QByteArray("\n\"A\x1bp\"1*100H1R\r\n")
         << QByteArray(
