@@ -9,6 +9,8 @@
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
+using vocabulary::DocumentKind;
+using vocabulary::PrintMethod;
 
 PaperWidths::PaperWidths(const FileName &file)
 {
@@ -21,24 +23,22 @@ std::vector<int> PaperWidths::ofJob(QIODevice &job) const
 {
     std::vector<int> widths;
     forEachMethod(job, [&](const QString &name) {
-        if (const PrintMethod *method = findPrintMethod(name)) {
-            const auto *kind = std::ranges::find(documentKinds, method->kind, &DocumentKind::name);
-            widths.push_back(ofBlock(kind->path));
-        }
+        if (const PrintMethod *method = vocabulary::findPrintMethod(name))
+            widths.push_back(of(*vocabulary::findDocumentKind(QString(method->kind))));
     });
     return widths;
-}
-
-int PaperWidths::ofBlock(QLatin1StringView path) const
-{
-    const int width = configuration.lookup(path + "paperWidth"_L1).toInt();
-    return std::clamp(width, paper::StripWidths::least, paper::StripWidths::most);
 }
 
 int PaperWidths::widest() const
 {
     int width = paper::StripWidths::least;
-    for (const DocumentKind &kind : documentKinds)
-        width = std::max(width, ofBlock(kind.path));
+    for (const DocumentKind &kind : vocabulary::documentKinds)
+        width = std::max(width, of(kind));
     return width;
+}
+
+int PaperWidths::of(const DocumentKind &kind) const
+{
+    const int width = configuration.lookup(kind.path() + "paperWidth"_L1).toInt();
+    return std::clamp(width, paper::StripWidths::least, paper::StripWidths::most);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filename.h"
+#include "documentkinds.h"
 #include "libconfig.h"
 
 #include <QIODevice>
