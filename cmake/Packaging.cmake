@@ -28,7 +28,8 @@ set(CPACK_COMPONENT_TOOLS_DESCRIPTION "The command palvestrin, which lists, chec
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "palvestrin-print (= ${PROJECT_VERSION})")
 
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME palvestrin-desktop)
-set(CPACK_COMPONENT_DESKTOP_DESCRIPTION "The window palvestrin-settings, which shows and edits the configuration.")
-set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "palvestrin-tools (= ${PROJECT_VERSION})")
+set(CPACK_COMPONENT_DESKTOP_DESCRIPTION "The window palvestrin-settings, which shows and edits the configuration, and palvestrin-draw, which draws what a
+job prints.")
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "palvestrin-tools (= ${PROJECT_VERSION}), fonts-dejavu-core")
 
 include(CPack)

@@ -16,6 +16,7 @@ enum class ExitCode {
     WriteFailed = 7,
     NotInstalled = 8,
     Broken = 9,
+    TooLarge = 10,
 };
 
 struct ExitCodeMeaning
@@ -43,4 +44,6 @@ inline constexpr std::array exitCodeMeanings{
         QLatin1StringView("A part of the house is not installed; the message names its package.")},
     ExitCodeMeaning{ExitCode::Broken,
                     QLatin1StringView("An output has faults; it was shown all the same, as far as it goes.")},
+    ExitCodeMeaning{ExitCode::TooLarge,
+                    QLatin1StringView("The picture would be too large; nothing was written.")},
 };

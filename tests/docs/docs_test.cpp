@@ -229,9 +229,10 @@ private Q_SLOTS:
     void linksLeadSomewhere_data()
     {
         QTest::addColumn<QString>("document");
-        for (const QString &document : {u"README.md"_s, u"ARCHITECTURE.md"_s, u"CONTRIBUTING.md"_s,
-                                        u"SECURITY.md"_s, u"docs/job-format.md"_s, u"docs/configuration.md"_s,
-                                        u"docs/output-format.md"_s, u"docs/services.md"_s})
+        for (const QString &document :
+             {u"README.md"_s, u"ARCHITECTURE.md"_s, u"CONTRIBUTING.md"_s, u"SECURITY.md"_s,
+              u"docs/job-format.md"_s, u"docs/configuration.md"_s, u"docs/output-format.md"_s,
+              u"docs/services.md"_s, u"docs/gallery.md"_s})
             QTest::addRow("%s", qPrintable(document)) << document;
     }
     void linksLeadSomewhere()

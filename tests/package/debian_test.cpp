@@ -65,6 +65,8 @@ private Q_SLOTS:
         const QString depends = field(u"palvestrin-desktop"_s, u"Depends"_s);
         QVERIFY2(depends.contains("palvestrin-tools (= " PACKAGE_VERSION ")"_L1), qPrintable(depends));
         QVERIFY2(depends.contains("libqt6widgets6"_L1), qPrintable(depends));
+        QVERIFY2(depends.contains("libqt6svg6"_L1), qPrintable(depends));
+        QVERIFY2(depends.contains("fonts-dejavu-core"_L1), qPrintable(depends));
     }
 
     void theRendererPrintsAsUnpacked()

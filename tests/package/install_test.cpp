@@ -25,19 +25,26 @@ private Q_SLOTS:
     void everyFileIsThere_data()
     {
         QTest::addColumn<QString>("file");
-        for (const char *file :
-             {"bin/palvestrin-print", "bin/palvestrin", "bin/palvestrin-settings",
-              "share/man/man1/palvestrin-print.1", "share/man/man1/palvestrin.1",
-              "share/bash-completion/completions/palvestrin",
-              "share/palvestrin/translations/palvestrin_it_IT.qm",
-              "share/palvestrin/translations/palvestrin_de_DE.qm",
-              "share/palvestrin/translations/palvestrin_fr_FR.qm",
-              "share/palvestrin/translations/palvestrin_es_ES.qm", "share/doc/palvestrin-print/README.md",
-              "share/doc/palvestrin-print/SECURITY.md", "share/doc/palvestrin-print/job-format.md",
-              "share/doc/palvestrin-print/output-format.md", "share/doc/palvestrin-print/configuration.md",
-              "share/doc/palvestrin-print/services.md",
-              "share/doc/palvestrin-print/examples/jobs/printFullOrderReceipt.xml",
-              "share/doc/palvestrin-print/examples/home/.palvestrin/conf/palvestrin.conf"})
+        for (const char *file : {"bin/palvestrin-print",
+                                 "bin/palvestrin",
+                                 "bin/palvestrin-settings",
+                                 "bin/palvestrin-draw",
+                                 "share/man/man1/palvestrin-print.1",
+                                 "share/man/man1/palvestrin.1",
+                                 "share/man/man1/palvestrin-draw.1",
+                                 "share/bash-completion/completions/palvestrin",
+                                 "share/palvestrin/translations/palvestrin_it_IT.qm",
+                                 "share/palvestrin/translations/palvestrin_de_DE.qm",
+                                 "share/palvestrin/translations/palvestrin_fr_FR.qm",
+                                 "share/palvestrin/translations/palvestrin_es_ES.qm",
+                                 "share/doc/palvestrin-print/README.md",
+                                 "share/doc/palvestrin-print/SECURITY.md",
+                                 "share/doc/palvestrin-print/job-format.md",
+                                 "share/doc/palvestrin-print/output-format.md",
+                                 "share/doc/palvestrin-print/configuration.md",
+                                 "share/doc/palvestrin-print/services.md",
+                                 "share/doc/palvestrin-print/examples/jobs/printFullOrderReceipt.xml",
+                                 "share/doc/palvestrin-print/examples/home/.palvestrin/conf/palvestrin.conf"})
             QTest::newRow(file) << QString::fromLatin1(file);
     }
     void everyFileIsThere()

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "picture.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <array>
+
+/// A kind of file that a picture may be.
+struct PictureFormat
+{
+    QLatin1StringView name;
+    QByteArray (*draw)(const std::vector<Strip> &, const PictureOptions &);
+    bool hasScale; ///< its size in pixels is free; that of the others is the paper's
+};
+
+inline constexpr std::array pictureFormats{
+    PictureFormat{QLatin1StringView("png"), pngPicture, true},
+    PictureFormat{QLatin1StringView("pdf"), pdfPicture, false},
+    PictureFormat{QLatin1StringView("svg"), svgPicture, true},
+};
+
+/// What the words of the command line ask for.
+struct DrawOptions
+{
+    const PictureFormat *format = nullptr;
+    QString output; ///< "-" for standard output
+    PictureOptions picture;
+    QList<int> columns; ///< of the paper of each strip
+    QByteArray encoding;
+};
+
+/// Reads the words behind the program's name; prints the help and ends the program where they ask for it.
+/// Throws a CommandError (WrongUsage).
+DrawOptions drawOptions(const QStringList &words);
