@@ -88,9 +88,8 @@ public:
         const int error = posix_spawn(&child, words.front().constData(), &actions, &attributes,
                                       pointersTo(words).data(), pointersTo(variables).data());
         if (error != 0) {
-            throw CommandError(
-                ExitCode::NotInstalled,
-                u"%1 does not start: %2"_s.arg(program.path, qt_error_string(error)));
+            throw CommandError(ExitCode::NotInstalled,
+                               u"%1 does not start: %2"_s.arg(program.path, qt_error_string(error)));
         }
         return child;
     }

@@ -12,6 +12,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -34,6 +35,12 @@ bool isStandardInput(const FileName &file)
     return file.bytes() == "-";
 }
 
+bool isFolder(int descriptor)
+{
+    struct stat found = {};
+    return ::fstat(descriptor, &found) == 0 && S_ISDIR(found.st_mode);
+}
+
 std::unique_ptr<QFile> openFile(const FileName &name)
 {
     const int descriptor =
@@ -41,6 +48,8 @@ std::unique_ptr<QFile> openFile(const FileName &name)
     auto file = std::make_unique<QFile>();
     if (descriptor < 0 || !file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         refuse(name, qt_error_string(descriptor < 0 ? errno : EISDIR));
+    if (isFolder(descriptor)) // which opens, and cannot be read
+        refuse(name, u"this is a folder; name a file"_s);
     return file;
 }
 

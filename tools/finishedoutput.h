@@ -10,7 +10,7 @@
 struct Rendering
 {
     FileName configuration; ///< an empty name means the user's
-    QByteArray locale;     ///< in which the renderer runs; "" means that of the environment
+    QByteArray locale;      ///< in which the renderer runs; "" means that of the environment
 };
 
 /// What goes to the printer, of one FILE of the command line: a finished output as it is, or the output of

@@ -60,8 +60,8 @@ void PagedBuffer::finish()
     }
     const bool hasLeftEarly = pipe && failure == EPIPE;
     if (const int error = std::exchange(failure, 0); error != 0 && !hasLeftEarly) {
-        throw CommandError(ExitCode::WriteFailed, u"standard output cannot be written: "_s +
-                                                      qt_error_string(error));
+        throw CommandError(ExitCode::WriteFailed,
+                           u"standard output cannot be written: "_s + qt_error_string(error));
     }
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filename.h"
 #include "documentkinds.h"
+#include "filename.h"
 #include "libconfig.h"
 
 #include <QIODevice>

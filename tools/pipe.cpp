@@ -10,8 +10,8 @@
 Pipe::Pipe()
 {
     if (pipe2(ends.data(), O_CLOEXEC) != 0) {
-        throw CommandError(ExitCode::Unreadable, QStringLiteral("no pipe to another program: ") +
-                                                     qt_error_string(errno));
+        throw CommandError(ExitCode::Unreadable,
+                           QStringLiteral("no pipe to another program: ") + qt_error_string(errno));
     }
 }
 

@@ -145,7 +145,8 @@ void refuseUnreadableOnTerminal(const Preview &preview)
 {
     const bool isPlain = !preview.format || preview.format->isForTerminal;
     if (!isPlain && preview.isForStandardOutput() && terminal::isThere())
-        refuse(u"a %1 is nothing for a terminal; give an output such as -o ticket.%1"_s.arg(preview.format->name));
+        refuse(u"a %1 is nothing for a terminal; give an output such as -o ticket.%1"_s.arg(
+            preview.format->name));
 }
 
 Preview previewFrom(const CommandLine &line)

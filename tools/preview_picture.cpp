@@ -67,10 +67,10 @@ QByteArray columnsArgument(const std::vector<int> &widths)
 
 QByteArrayList argumentsFor(const Preview &preview, const std::vector<int> &widths)
 {
-    QByteArrayList arguments{"--format",   preview.format->name.data(), "--output",
-                             preview.isForStandardOutput() ? "-" : preview.output.bytes(),
-                             "--encoding", preview.encoding(),          "--title",
-                             preview.files.first().bytes()};
+    QByteArrayList arguments{"--format",   preview.format->name.data(),
+                             "--output",   preview.isForStandardOutput() ? "-" : preview.output.bytes(),
+                             "--encoding", preview.encoding(),
+                             "--title",    preview.files.first().bytes()};
     if (preview.columns > 0)
         arguments += {"--columns", QByteArray::number(preview.columns)};
     else if (!widths.empty())

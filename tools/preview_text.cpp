@@ -15,7 +15,8 @@ void writeAll(const Preview &preview, std::ostream &out, FaultList &faults)
         FinishedOutput output(file, preview.rendering);
         readOutput(
             output.stream(), preview.encoding(), painter,
-            [&](const paper::Fault &fault) { faults.add(output.name(), fault); }, [&out] { return bool(out); });
+            [&](const paper::Fault &fault) { faults.add(output.name(), fault); },
+            [&out] { return bool(out); });
     }
 }
 

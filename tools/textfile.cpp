@@ -46,7 +46,7 @@ mode_t modeFor(const FileName &path)
 
 } // namespace
 
-TextFile::TextFile(const FileName &of) : path(behindLinks(of))
+TextFile::TextFile(const FileName &given) : name(given), path(behindLinks(given))
 {
     const bool isDevice = path.exists() && !path.isRegularFile();
     const int descriptor = isDevice ? ::open(path.system(), O_WRONLY | O_CLOEXEC) : openBeside();
@@ -85,5 +85,5 @@ int TextFile::openBeside()
 
 void TextFile::fail(const QString &reason) const
 {
-    throw CommandError(ExitCode::WriteFailed, path, reason);
+    throw CommandError(ExitCode::WriteFailed, name, reason);
 }

@@ -13,7 +13,7 @@ class TextFile
 {
 public:
     /// Throws a CommandError (WriteFailed), or (Unreadable) for a link that leads nowhere.
-    explicit TextFile(const FileName &path);
+    explicit TextFile(const FileName &given);
     TextFile(const TextFile &) = delete;
     TextFile &operator=(const TextFile &) = delete;
     /// Without a commit an older file stays as it was.
@@ -27,7 +27,8 @@ private:
     int openBeside();
     [[noreturn]] void fail(const QString &reason) const;
 
-    const FileName path;
+    const FileName name;  ///< as given, for messages
+    const FileName path;  ///< behind links
     QByteArray temporary; ///< the name of what will be renamed to `path`; "" when there is nothing to rename
     QFile file;
     std::unique_ptr<std::streambuf> buffer;

@@ -221,7 +221,7 @@ private Q_SLOTS:
         const ProgramRun unknown = run({u"unknown.xml"_s});
         QCOMPARE(unknown.exitStatus, 4);
         QCOMPARE(unknown.standardOutput, "");
-        QCOMPARE(unknown.standardError, "palvestrin: note: unknown.xml: File Format Not Supported\n"
+        QCOMPARE(unknown.standardError, "unknown.xml: note: File Format Not Supported\n"
                                         "unknown.xml: error: it prints nothing; a print job is XML and names "
                                         "a print method that is known\n");
     }
@@ -279,7 +279,7 @@ private Q_SLOTS:
             QTest::newRow(qPrintable(arguments.join(u' '))) << arguments << code << errors + '\n';
         };
         row({u"nosuch.xml"_s}, 4, "nosuch.xml: error: No such file or directory");
-        row({u"."_s}, 4, ".: error: file to open is a directory");
+        row({u"."_s}, 4, ".: error: this is a folder; name a file");
         row({u"/dev/null"_s}, 4, "/dev/null: error: the file is empty");
         row({u"wide.conf"_s}, 4,
             "wide.conf: error: this is neither a print job (XML) nor a finished output of palvestrin-print");
@@ -294,7 +294,10 @@ private Q_SLOTS:
             ".svg, or "
             "give --format");
         row({u"--format"_s, u"gif"_s, u"job.xml"_s}, 2,
-            "palvestrin: error: no format \"gif\"; there are txt, png, pdf, svg");
+            "palvestrin: error: no \"gif\" for --format; give txt or png or pdf or svg; usage: palvestrin "
+            "preview "
+            "[--config FILE] [--locale NAME] [-o, --output OUT] [--format txt|png|pdf|svg] [--columns N] "
+            "[--scale N] [--marks] FILE...");
         row({u"--columns"_s, u"0"_s, u"job.xml"_s}, 2,
             "palvestrin: error: --columns takes a number from 1 to 1000, not \"0\"");
         row({u"--columns"_s, u"wide"_s, u"job.xml"_s}, 2,
