@@ -58,3 +58,13 @@ function(palvestrin_test target)
   set_tests_properties(${target} PROPERTIES TIMEOUT 300
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;XDG_RUNTIME_DIR=${runtime_folder}")
 endfunction()
+
+# Builds `target`, a name in the current binary folder, from the file `source`: compressed as Debian wants it, with
+# no name and no time inside, so that two builds of one version are equal.
+function(palvestrin_compressed source target)
+  add_custom_command(OUTPUT ${target}
+    COMMAND gzip -9nc ${source} > ${target}
+    DEPENDS ${source}
+    VERBATIM)
+  add_custom_target(compressed-${target} ALL DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/${target})
+endfunction()

@@ -1,4 +1,5 @@
-// The Debian packages: what they hold, what they need, and that the renderer works without the tools.
+// The Debian packages: what they hold, what they need, that Debian's own inspector finds nothing in them, and
+// that the renderer works without the tools.
 
 #include "installedprinter.h"
 
@@ -13,7 +14,8 @@ class DebianTest : public QObject
 
 private:
     const QTemporaryDir folder;
-    const QStringList environment = {u"PATH="_s + qEnvironmentVariable("PATH")};
+    const QStringList environment = {u"PATH="_s + qEnvironmentVariable("PATH"), u"HOME="_s + folder.path(),
+                                     u"LC_ALL=C.UTF-8"_s};
 
     QString packagePath(const QString &name) const
     {
@@ -25,23 +27,47 @@ private:
         const ProgramRun run = runProgram(u"dpkg-deb"_s, {u"-f"_s, packagePath(package), name}, environment);
         return QString::fromUtf8(run.standardOutput).trimmed();
     }
+    /// "-rwxr-xr-x root/root usr/bin/palvestrin" for everything that the package holds.
+    QStringList contents(const QString &package) const
+    {
+        const ProgramRun run = runProgram(u"dpkg-deb"_s, {u"-c"_s, packagePath(package)}, environment);
+        QStringList lines;
+        for (const QString &line : QString::fromUtf8(run.standardOutput).split(u'\n', Qt::SkipEmptyParts)) {
+            const QStringList words = line.simplified().split(u' ');
+            lines += words[0] + u' ' + words[1] + u' ' + words.mid(5).join(u' ').remove(u"./"_s);
+        }
+        return lines;
+    }
+    /// The files of the package, without those below `folders`.
+    QStringList files(const QString &package, const QRegularExpression &folders) const
+    {
+        QStringList names;
+        for (const QString &line : contents(package)) {
+            const QString name = line.section(u' ', 2);
+            if (!name.endsWith(u'/') && !name.contains(folders))
+                names += name;
+        }
+        names.sort();
+        return names;
+    }
 
 private Q_SLOTS:
     void initTestCase()
     {
         if (QLatin1StringView(BUILD_TYPE) != "Release"_L1)
             QSKIP("packages are made of what restaurants run, and of nothing else");
-        const ProgramRun run = runProgram(
-            QStringLiteral(CPACK_PROGRAM),
-            {u"--config"_s, QStringLiteral(BUILD_FOLDER "/CPackConfig.cmake"), u"-B"_s, folder.path()},
+        const ProgramRun run = runProgram( // whatever the umask of whoever makes them
+            u"sh"_s,
+            {u"-c"_s, u"umask 077; exec \"$@\""_s, u"sh"_s, QStringLiteral(CPACK_PROGRAM), u"--config"_s,
+             QStringLiteral(BUILD_FOLDER "/CPackConfig.cmake"), u"-B"_s, folder.path()},
             environment);
         QVERIFY2(run.failure.isEmpty(), run.standardOutput + run.standardError);
     }
 
     void versions()
     {
-        QCOMPARE(field(u"palvestrin-print"_s, u"Version"_s), QStringLiteral(PACKAGE_VERSION));
-        QCOMPARE(field(u"palvestrin-tools"_s, u"Version"_s), QStringLiteral(PACKAGE_VERSION));
+        for (const QString &package : {u"palvestrin-print"_s, u"palvestrin-tools"_s, u"palvestrin-desktop"_s})
+            QCOMPARE(field(package, u"Version"_s), QStringLiteral(PACKAGE_VERSION));
     }
 
     void theRendererNeedsNoGuiLibrary()
@@ -50,14 +76,17 @@ private Q_SLOTS:
         QVERIFY2(depends.contains("libqt6core6 (>= 6.4"_L1), qPrintable(depends));
         static const QRegularExpression gui(u"gui|widgets|sql|libx11|libgl"_s);
         QVERIFY2(!depends.contains(gui), qPrintable(depends));
+        QCOMPARE(field(u"palvestrin-print"_s, u"Recommends"_s), u"palvestrin-tools"_s);
     }
 
     void theToolsNeedTheRenderer()
     {
         const QString depends = field(u"palvestrin-tools"_s, u"Depends"_s);
         QVERIFY2(depends.contains("palvestrin-print (= " PACKAGE_VERSION ")"_L1), qPrintable(depends));
-        static const QRegularExpression gui(u"gui|widgets|libx11|libgl"_s);
+        static const QRegularExpression gui(u"gui|widgets|libx11|libgl|desktop"_s);
         QVERIFY2(!depends.contains(gui), qPrintable(depends));
+        QCOMPARE(field(u"palvestrin-tools"_s, u"Recommends"_s), QString()); // apt would install what it names
+        QCOMPARE(field(u"palvestrin-tools"_s, u"Suggests"_s), u"palvestrin-desktop"_s);
     }
 
     void theWindowIsAPackageOfItsOwn()
@@ -67,6 +96,91 @@ private Q_SLOTS:
         QVERIFY2(depends.contains("libqt6widgets6"_L1), qPrintable(depends));
         QVERIFY2(depends.contains("libqt6svg6"_L1), qPrintable(depends));
         QVERIFY2(depends.contains("fonts-dejavu-core"_L1), qPrintable(depends));
+    }
+
+    void everyFileIsInItsPackage_data()
+    {
+        QTest::addColumn<QString>("package");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("print") << u"palvestrin-print"_s
+                               << QStringList{u"usr/bin/palvestrin-print"_s,
+                                              u"usr/share/doc/palvestrin-print/README.md"_s,
+                                              u"usr/share/doc/palvestrin-print/SECURITY.md"_s,
+                                              u"usr/share/doc/palvestrin-print/changelog.gz"_s,
+                                              u"usr/share/doc/palvestrin-print/configuration.md"_s,
+                                              u"usr/share/doc/palvestrin-print/copyright"_s,
+                                              u"usr/share/doc/palvestrin-print/job-format.md"_s,
+                                              u"usr/share/doc/palvestrin-print/output-format.md"_s,
+                                              u"usr/share/doc/palvestrin-print/services.md"_s,
+                                              u"usr/share/man/man1/palvestrin-print.1.gz"_s,
+                                              u"usr/share/man/man5/palvestrin.conf.5.gz"_s};
+        QTest::newRow("tools") << u"palvestrin-tools"_s
+                               << QStringList{u"usr/bin/palvestrin"_s,
+                                              u"usr/share/bash-completion/completions/palvestrin"_s,
+                                              u"usr/share/doc/palvestrin-tools -> palvestrin-print"_s,
+                                              u"usr/share/man/man1/palvestrin-config.1.gz"_s,
+                                              u"usr/share/man/man1/palvestrin.1.gz"_s,
+                                              u"usr/share/zsh/vendor-completions/_palvestrin"_s};
+        QTest::newRow("desktop") << u"palvestrin-desktop"_s
+                                 << QStringList{u"usr/bin/palvestrin-settings"_s,
+                                                u"usr/share/doc/palvestrin-desktop -> palvestrin-print"_s,
+                                                u"usr/share/man/man1/palvestrin-settings.1.gz"_s};
+    }
+    void everyFileIsInItsPackage()
+    {
+        QFETCH(QString, package);
+        static const QRegularExpression many(u"/(examples|translations)/"_s);
+        QTEST(files(package, many), "expected");
+    }
+
+    void everyExampleAndCatalogueIsThere()
+    {
+        const QStringList all = files(u"palvestrin-print"_s, QRegularExpression(u"(?!)"_s));
+        QCOMPARE(all.filter(u"usr/share/doc/palvestrin-print/examples/jobs/print"_s).size(), qsizetype(13));
+        QVERIFY(
+            all.contains(u"usr/share/doc/palvestrin-print/examples/home/.palvestrin/conf/palvestrin.conf"_s));
+        for (const QString &language :
+             {u"it"_s, u"it_IT"_s, u"de"_s, u"de_DE"_s, u"fr"_s, u"fr_FR"_s, u"es"_s, u"es_ES"_s})
+            QVERIFY(all.contains(u"usr/share/palvestrin/translations/palvestrin_%1.qm"_s.arg(language)));
+    }
+
+    void everybodyMayReadAndNobodyWrite()
+    {
+        for (const QString &package :
+             {u"palvestrin-print"_s, u"palvestrin-tools"_s, u"palvestrin-desktop"_s}) {
+            const QStringList lines = contents(package);
+            QVERIFY(!lines.isEmpty());
+            for (const QString &line : lines) {
+                static const QRegularExpression right(
+                    u"^(drwxr-xr-x root/root .*/|-rwxr-xr-x root/root usr/bin/.*[^/]|"
+                    u"-rw-r--r-- root/root usr/share/.*[^/]|lrwxrwxrwx root/root .* -> .*)$"_s);
+                QVERIFY2(line.contains(right) || line == "drwxr-xr-x root/root "_L1, qPrintable(line));
+            }
+        }
+    }
+
+    void theChangelogBeginsWithThisVersion()
+    {
+        const ProgramRun run = runProgram(u"sh"_s,
+                                          {u"-c"_s,
+                                           u"dpkg-deb --fsys-tarfile \"$1\" | tar -xOf - "
+                                           "./usr/share/doc/palvestrin-print/changelog.gz | gzip -dc"_s,
+                                           u"sh"_s, packagePath(u"palvestrin-print"_s)},
+                                          environment);
+        QVERIFY2(run.standardOutput.startsWith("palvestrin-print (" PACKAGE_VERSION ") "),
+                 run.standardOutput);
+    }
+
+    /// No error, no warning.
+    void lintianFindsNothing()
+    {
+        const ProgramRun run = runProgram(
+            u"lintian"_s,
+            {u"--allow-root"_s, u"--tag-display-limit"_s, u"0"_s, packagePath(u"palvestrin-print"_s),
+             packagePath(u"palvestrin-tools"_s), packagePath(u"palvestrin-desktop"_s)},
+            environment, folder.path(), 240'000);
+        QCOMPARE(run.standardOutput + run.standardError, QByteArray());
+        QCOMPARE(run.failure, QString());
     }
 
     void theRendererPrintsAsUnpacked()

@@ -22,9 +22,10 @@ inline QStringList bareEnvironment(const QString &home)
 }
 
 /// Runs a program in an environment that holds nothing but `environment` ("NAME=VALUE", the last of a name
-/// counts). After a minute it is killed.
+/// counts). After `timeLimit` milliseconds it is killed: a job takes a few, slow sanitizer builds included.
 inline ProgramRun runProgram(const QString &path, const QStringList &arguments,
-                             const QStringList &environment, const QString &workingDirectory = QString())
+                             const QStringList &environment, const QString &workingDirectory = QString(),
+                             int timeLimit = 60'000)
 {
     QProcessEnvironment variables;
     for (const QString &variable : environment)
@@ -33,7 +34,6 @@ inline ProgramRun runProgram(const QString &path, const QStringList &arguments,
     process.setProcessEnvironment(variables);
     process.setWorkingDirectory(workingDirectory);
     process.start(path, arguments, QIODevice::ReadOnly);
-    constexpr int timeLimit = 60'000; // milliseconds; a job takes a few, slow sanitizer builds included
     const bool inTime = process.waitForFinished(timeLimit) || process.state() == QProcess::NotRunning;
     if (!inTime) {
         process.kill();
@@ -42,7 +42,7 @@ inline ProgramRun runProgram(const QString &path, const QStringList &arguments,
 
     ProgramRun run;
     if (!inTime)
-        run.failure = QStringLiteral("it did not end within a minute");
+        run.failure = QStringLiteral("it did not end within %1 ms").arg(timeLimit);
     else if (process.error() == QProcess::FailedToStart)
         run.failure = QStringLiteral("it does not start: ") + process.errorString();
     else if (process.exitStatus() == QProcess::CrashExit)
