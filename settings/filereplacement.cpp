@@ -46,7 +46,9 @@ void syncFolder(const FileName &path)
 /// The hidden file in the same folder that takes the new content.
 FileName besides(const FileName &path)
 {
-    const std::string hidden = "." + path.path().filename().string() + ".new";
+    std::filesystem::path hidden(".");
+    hidden += path.path().filename();
+    hidden += ".new";
     return path.path().parent_path() / hidden;
 }
 
