@@ -1,6 +1,7 @@
 #include "drawoptions.h"
 
 #include "commanderror.h"
+#include "localeencoding.h"
 #include "picturelimits.h"
 
 #include <QCommandLineParser>
@@ -24,6 +25,19 @@ QString formatNames(QLatin1StringView separator)
     return names.join(separator);
 }
 
+/// The file that --output names, as bytes, which the toolkit's parser does not keep.
+FileName outputIn(const QByteArrayList &words)
+{
+    FileName output;
+    for (qsizetype i = 0; i < words.size(); ++i) {
+        if (words[i].startsWith("--output="))
+            output = FileName(words[i].sliced(qstrlen("--output=")));
+        else if (words[i] == "--output" && i + 1 < words.size())
+            output = FileName(words[++i]);
+    }
+    return output;
+}
+
 /// The command line, as the toolkit's parser wants to know it.
 class DrawParser
 {
@@ -34,6 +48,7 @@ public:
         parser.addOptions({format, output, scale, marks, columns, encoding, title, help});
     }
 
+    /// All but the output, whose name is bytes.
     DrawOptions parse(const QStringList &words)
     {
         if (!parser.parse(QStringList(u"palvestrin-draw"_s) + words))
@@ -45,7 +60,7 @@ public:
                 parser.positionalArguments().constFirst()));
         DrawOptions options;
         options.format = &parseFormat();
-        options.output = required(output, u"--output FILE"_s);
+        required(output, u"--output FILE"_s);
         options.picture = {parseScale(*options.format), parser.isSet(marks), parser.value(title)};
         options.columns = parseColumns();
         options.encoding = parseEncoding();
@@ -131,7 +146,13 @@ private:
 
 } // namespace
 
-DrawOptions drawOptions(const QStringList &words)
+DrawOptions drawOptions(const QByteArrayList &words)
 {
-    return DrawParser().parse(words);
+    const LocaleEncoding encoding;
+    QStringList texts;
+    for (const QByteArray &word : words)
+        texts += encoding.decode(word);
+    DrawOptions options = DrawParser().parse(texts);
+    options.output = outputIn(words);
+    return options;
 }

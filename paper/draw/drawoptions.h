@@ -1,9 +1,10 @@
 #pragma once
 
+#include "filename.h"
 #include "picture.h"
 
 #include <QList>
-#include <QStringList>
+#include <QByteArrayList>
 
 #include <array>
 
@@ -25,12 +26,12 @@ inline constexpr std::array pictureFormats{
 struct DrawOptions
 {
     const PictureFormat *format = nullptr;
-    QString output; ///< "-" for standard output
+    FileName output; ///< "-" for standard output
     PictureOptions picture;
     QList<int> columns; ///< of the paper of each strip
     QByteArray encoding;
 };
 
-/// Reads the words behind the program's name; prints the help and ends the program where they ask for it.
+/// Reads the words behind the program's name, as the system has them; prints the help and ends the program where they ask for it.
 /// Throws a CommandError (WrongUsage).
-DrawOptions drawOptions(const QStringList &words);
+DrawOptions drawOptions(const QByteArrayList &words);

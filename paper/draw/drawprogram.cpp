@@ -2,6 +2,7 @@
 
 #include "commanderror.h"
 #include "drawoptions.h"
+#include "localeencoding.h"
 #include "missingcharacters.h"
 #include "pictureoutput.h"
 #include "streamreader.h"
@@ -77,11 +78,11 @@ void tellMissing(const QStringList &characters)
     constexpr int most = 10;
     if (characters.isEmpty())
         return;
-    std::cerr
-        << "palvestrin-draw: warning: no installed font has "
-        << characters.first(qMin(most, characters.size())).join(u' ').toStdString()
-        << (characters.size() > most ? " and others" : "")
-        << ", which are drawn as boxes; the packages fonts-noto-cjk and fonts-symbola have many characters\n";
+    const QString warning = u"palvestrin-draw: warning: no installed font has %1%2, which are drawn as boxes; the "
+                            "packages fonts-noto-cjk and fonts-symbola have many characters\n"_s.arg(
+                                characters.first(qMin(most, characters.size())).join(u' '),
+                                characters.size() > most ? u" and others"_s : u""_s);
+    std::cerr << LocaleEncoding().encode(warning).toStdString();
 }
 
 void draw(const DrawOptions &options)
@@ -106,12 +107,13 @@ ExitCode runDrawProgram(int argc, char **argv)
 {
     try {
         const WithoutDisplay start;
+        const QByteArrayList words(argv + 1, argv + argc); // before the toolkit takes its own out
         const QGuiApplication application(argc, argv);
-        draw(drawOptions(QGuiApplication::arguments().sliced(1)));
+        draw(drawOptions(words));
         return ExitCode::Done;
     } catch (const CommandError &error) {
         for (const QString &line : error.messages())
-            std::cerr << line.toStdString() << '\n';
+            std::cerr << LocaleEncoding().encode(line).toStdString() << '\n';
         return error.code();
     }
 }

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+#include "filename.h"
 
-/// Writes a picture to `path`, or to standard output for "-". A file is there whole or as it was before; a
-/// device or a pipe is written to as it is. Throws a CommandError (WriteFailed).
-void writePicture(const QString &path, const QByteArray &picture);
+#include <QByteArray>
+
+/// Writes a picture to a file, or to standard output for the name "-". A file is there whole or as it was before;
+/// a device or a pipe is written to as it is. Throws a CommandError (WriteFailed).
+void writePicture(const FileName &name, const QByteArray &picture);

@@ -218,13 +218,26 @@ private Q_SLOTS:
     {
         const Run noFolder = runWith(receipt, toFile(u"png"_s, u"no/such/folder.png"_s));
         QCOMPARE(noFolder.errors, folder.path(u"no/such/folder.png"_s).toUtf8() +
-                                      ": error: the picture cannot be written: No such file or directory\n");
+                                      ": error: No such file or directory\n");
         QCOMPARE(noFolder.exitCode, codeOf(ExitCode::WriteFailed));
 
         const Run full = runWith(receipt, {u"--format"_s, u"png"_s, u"--output"_s, u"/dev/full"_s});
         QCOMPARE(full.errors,
-                 QByteArray("/dev/full: error: the picture cannot be written: No space left on device\n"));
+                 QByteArray("/dev/full: error: No space left on device\n"));
         QCOMPARE(full.exitCode, codeOf(ExitCode::WriteFailed));
+    }
+
+    void aFileIsNamedByItsBytes()
+    {
+        const QString name = u"\"$(printf 'caff\\350.png')\""_s; // no UTF-8
+        const QString draw = "\"$0\" --format png --output "_L1 + name;
+        QProcess shell;
+        shell.setWorkingDirectory(folder.path());
+        shell.setStandardInputFile(folder.write(u"stream"_s, receipt));
+        shell.start(u"sh"_s, {u"-c"_s, draw + " && test -s "_L1 + name, QStringLiteral(PALVESTRIN_DRAW)});
+        QVERIFY(shell.waitForFinished());
+        QCOMPARE(shell.readAllStandardError(), QByteArray());
+        QCOMPARE(shell.exitCode(), 0);
     }
 
     void devicesStayDevices()
