@@ -119,11 +119,14 @@ private Q_SLOTS:
                                               u"usr/share/bash-completion/completions/palvestrin"_s,
                                               u"usr/share/doc/palvestrin-tools -> palvestrin-print"_s,
                                               u"usr/share/man/man1/palvestrin-config.1.gz"_s,
+                                              u"usr/share/man/man1/palvestrin-preview.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin.1.gz"_s,
                                               u"usr/share/zsh/vendor-completions/_palvestrin"_s};
         QTest::newRow("desktop") << u"palvestrin-desktop"_s
-                                 << QStringList{u"usr/bin/palvestrin-settings"_s,
+                                 << QStringList{u"usr/bin/palvestrin-draw"_s,
+                                                u"usr/bin/palvestrin-settings"_s,
                                                 u"usr/share/doc/palvestrin-desktop -> palvestrin-print"_s,
+                                                u"usr/share/man/man1/palvestrin-draw.1.gz"_s,
                                                 u"usr/share/man/man1/palvestrin-settings.1.gz"_s};
     }
     void everyFileIsInItsPackage()
