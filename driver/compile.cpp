@@ -92,5 +92,6 @@ void compile(int argc, char **argv)
     QXmlSimpleReader reader;
     reader.setContentHandler(&printer);
     reader.setDeclHandler(&printer);
+    reader.setLexicalHandler(&printer);
     reader.parse(source);
 }

@@ -1,5 +1,25 @@
 #include "jobreader.h"
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Whether the parentheses of an entity's value, in each other, are more than a declaration may have. In the
+/// text of the job they may be written as references to characters.
+bool nestsTooDeep(const QString &value)
+{
+    int open = 0;
+    for (const QChar character : value) {
+        open += (character == u'(') - (character == u')');
+        if (open > maxNesting)
+            return true;
+        open = qMax(0, open);
+    }
+    return false;
+}
+
+} // namespace
+
 QChar JobSource::next()
 {
     if (!isWatched)
@@ -14,12 +34,26 @@ QChar JobSource::next()
 
 void JobSource::watch(QChar character)
 {
-    if (inProlog && character == u'(')
-        ++openParentheses;
-    else if (inProlog && character == u')') // never below zero: a comment may close what nobody opened
-        openParentheses = qMax(0, openParentheses - 1);
-    else if (character == u'&' || character == u'%')
+    if (inProlog)
+        watchParentheses(character);
+    if (character == u'&' || character == u'%')
         expanded += qMin(entityLength * entityReferences, maxExpansion + 1);
+}
+
+void JobSource::watchParentheses(QChar character)
+{
+    // Behind the beginning of a comment or an instruction, even of one that is quoted text to the reader, no
+    // declaration comes without one of these: written out, from an entity, or as a reference to a character.
+    if (character == u'<' || character == u'%' || character == u'&')
+        lastMarkup.clear();
+    if (lastMarkup.size() < 4)
+        lastMarkup += character;
+    if (!inDocumentType || lastMarkup.startsWith("<?"_L1) || lastMarkup == "<!--"_L1)
+        return;
+    if (character == u'(')
+        ++openParentheses;
+    else if (character == u')') // never below zero: an entity's text may close what nobody opened
+        openParentheses = qMax(0, openParentheses - 1);
 }
 
 bool JobSource::addEntity(const QString &value)
@@ -29,7 +63,7 @@ bool JobSource::addEntity(const QString &value)
     entityLength += value.size();
     const qint64 references = value.count(u'&') + value.count(u'%');
     entityReferences = qMin(entityReferences * qMax<qint64>(1, references), maxExpansion);
-    return ++entities <= maxEntities;
+    return ++entities <= maxEntities && !nestsTooDeep(value);
 }
 
 void JobSource::leaveProlog()
@@ -58,6 +92,18 @@ bool JobPrinter::startPrefixMapping(const QString &prefix, const QString &)
     // Counted by name: many a serializer declares the same prefix anew at every element.
     prefixes.insert(prefix);
     return prefixes.size() <= maxPrefixes;
+}
+
+bool JobPrinter::startDTD(const QString &, const QString &, const QString &)
+{
+    source.setInDocumentType(true);
+    return true;
+}
+
+bool JobPrinter::endDTD()
+{
+    source.setInDocumentType(false);
+    return true;
 }
 
 bool JobPrinter::internalEntityDecl(const QString &, const QString &value)

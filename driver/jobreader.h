@@ -23,7 +23,7 @@ inline constexpr qint64 maxExpansion = 20'000'000;
 /// Namespace prefixes of a job: the reader compares all of them with each other at every end tag.
 inline constexpr qsizetype maxPrefixes = 20;
 
-/// The text of a job. It ends early where parentheses before the first element nest too deep, or where entity
+/// The text of a job. It ends early where parentheses in its document type nest too deep, or where entity
 /// references may stand for too much.
 class JobSource : public QXmlInputSource
 {
@@ -32,17 +32,22 @@ public:
     explicit JobSource(QIODevice *device) : QXmlInputSource(device) {}
 
     QChar next() override;
-    /// An entity was declared; false when there are too many of them.
+    /// An entity was declared; false when there are too many of them, or too many parentheses in it.
     bool addEntity(const QString &value);
-    /// The first element has begun: parentheses are text from here on.
+    /// Outside a document type parentheses are text.
+    void setInDocumentType(bool inside) { inDocumentType = inside; }
+    /// The first element has begun.
     void leaveProlog();
 
 private:
     void watch(QChar character);
+    void watchParentheses(QChar character);
     bool isTooMuch() const { return openParentheses > maxNesting || expanded > maxExpansion; }
 
     bool isWatched = true; ///< whether anything in the text can be too much
     bool inProlog = true;
+    bool inDocumentType = false;
+    QString lastMarkup; ///< the last character of the prolog that may begin something, and three behind it
     int openParentheses = 0;
     int entities = 0;
     qint64 entityLength = 0;     ///< of all declared values together, in characters
@@ -63,6 +68,8 @@ public:
                       const QXmlAttributes &attributes) override;
     bool endElement(const QString &namespaceUri, const QString &localName, const QString &qName) override;
     bool startPrefixMapping(const QString &prefix, const QString &namespaceUri) override;
+    bool startDTD(const QString &name, const QString &publicId, const QString &systemId) override;
+    bool endDTD() override;
     bool internalEntityDecl(const QString &name, const QString &value) override;
 
 private:

@@ -155,6 +155,7 @@ QByteArray render(QIODevice &job, PVConfiguration &configuration)
         QXmlSimpleReader reader;
         reader.setContentHandler(&printer);
         reader.setDeclHandler(&printer);
+        reader.setLexicalHandler(&printer);
         reader.parse(source);
         documented = printer.printsDocumentedPieces();
     }

@@ -374,6 +374,53 @@ const Row rows[] = {
          job += times(1500, ")|((" + times(buffer - 4, "a")) + times(1502, ")") + ">]>" + head + tail;
          return Job{job, ""};
      }},
+    {"1,001 parentheses in a comment",
+     [] {
+         return Job{"<!-- <a> " + times(1001, "(") + " -->" + head + tail, wholeJob};
+     }},
+    {"1,001 parentheses in a processing instruction",
+     [] {
+         return Job{"<?xml version=\"1.0\"?><?note <a> & %b; " + times(1001, "(") + "?>" + head + tail,
+                    wholeJob};
+     }},
+    {"1,001 parentheses behind a document type",
+     [] {
+         return Job{"<!DOCTYPE job SYSTEM \"x\"><!-- <a> " + times(1001, "(") + " -->" + head + tail,
+                    wholeJob};
+     }},
+    {"1,001 parentheses behind a document type with declarations",
+     [] {
+         return Job{"<!DOCTYPE job [<!ELEMENT job (a)>]><?note <a> " + times(1001, "(") + "?>" + head + tail,
+                    wholeJob};
+     }},
+    {"1,001 parentheses in a comment of a document type",
+     [] {
+         return Job{withDocumentType("<!-- " + times(1001, "(") + " -->"), wholeJob};
+     }},
+    {"1,001 parentheses in a processing instruction of a document type",
+     [] {
+         return Job{withDocumentType(" <?note " + times(1001, "(") + "?>"), wholeJob};
+     }},
+    {"parentheses behind what is a comment in quotes only",
+     [] {
+         return Job{withDocumentType("<!ENTITY a \"<!--\">" + parentheses(200'000)), ""};
+     }},
+    {"parentheses behind what is an instruction in quotes only",
+     [] {
+         return Job{withDocumentType("<!ENTITY % a \"<?b?>&#60;!ELEMENT job " + times(200'000, "(") + 'a' +
+                                     times(200'000, ")") + "&#62;\">%a;"),
+                    ""};
+     }},
+    {"parentheses behind a declaration that an entity begins",
+     [] {
+         return Job{withDocumentType("<!ENTITY % a \"<!ELEMENT job \"><!-- -->%a;" + times(200'000, "(") +
+                                     'a' + times(200'000, ")") + '>'),
+                    ""};
+     }},
+    {"parentheses behind a comment that an entity begins",
+     [] {
+         return Job{withDocumentType("<!ENTITY % a \"<!-- \">%a; -->" + parentheses(200'000)), ""};
+     }},
     {"parentheses behind a comment with an element",
      [] {
          return Job{"<!-- <a> -->" + withDocumentType(parentheses(200'000)), ""};
@@ -385,6 +432,12 @@ const Row rows[] = {
     {"parentheses in a parameter entity",
      [] {
          return Job{withDocumentType("<!ENTITY % p \"" + times(200'000, "(") + "\"><!ELEMENT job %p;a>"), ""};
+     }},
+    {"parentheses in a parameter entity, written as references to a character",
+     [] {
+         return Job{withDocumentType("<!ENTITY % p \"<!ELEMENT job " + times(200'000, "&#40;") + 'a' +
+                                     times(200'000, "&#41;") + ">\">%p;"),
+                    ""};
      }},
     {"parentheses in 300 parameter entities",
      [] {
