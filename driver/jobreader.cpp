@@ -84,14 +84,19 @@ bool JobPrinter::startElement(const QString &namespaceUri, const QString &localN
 bool JobPrinter::endElement(const QString &namespaceUri, const QString &localName, const QString &qName)
 {
     --openElements;
-    return CompanyPrinterDriver::endElement(namespaceUri, localName, qName);
+    return prefixes.endElement() && CompanyPrinterDriver::endElement(namespaceUri, localName, qName);
 }
 
 bool JobPrinter::startPrefixMapping(const QString &prefix, const QString &)
 {
-    // Counted by name: many a serializer declares the same prefix anew at every element.
-    prefixes.insert(prefix);
-    return prefixes.size() <= maxPrefixes;
+    prefixes.add(prefix);
+    return true;
+}
+
+bool JobPrinter::endPrefixMapping(const QString &prefix)
+{
+    prefixes.remove(prefix);
+    return true;
 }
 
 bool JobPrinter::startDTD(const QString &, const QString &, const QString &)

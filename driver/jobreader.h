@@ -1,8 +1,8 @@
 #pragma once
 
 #include "companyprinterdriver.h"
+#include "prefixscope.h"
 
-#include <QSet>
 #include <QXmlInputSource>
 
 // Guards against jobs that would overflow the stack, the memory or the patience of the XML reader. The job
@@ -20,9 +20,6 @@ inline constexpr int maxEntities = 1000;
 /// Characters that all entity references of a job together may stand for. The reader has a limit of its own,
 /// but it does not hold for every order of declarations.
 inline constexpr qint64 maxExpansion = 20'000'000;
-/// Namespace prefixes of a job: the reader compares all of them with each other at every end tag.
-inline constexpr qsizetype maxPrefixes = 20;
-
 /// The text of a job. It ends early where parentheses in its document type nest too deep, or where entity
 /// references may stand for too much.
 class JobSource : public QXmlInputSource
@@ -68,6 +65,7 @@ public:
                       const QXmlAttributes &attributes) override;
     bool endElement(const QString &namespaceUri, const QString &localName, const QString &qName) override;
     bool startPrefixMapping(const QString &prefix, const QString &namespaceUri) override;
+    bool endPrefixMapping(const QString &prefix) override;
     bool startDTD(const QString &name, const QString &publicId, const QString &systemId) override;
     bool endDTD() override;
     bool internalEntityDecl(const QString &name, const QString &value) override;
@@ -75,5 +73,5 @@ public:
 private:
     JobSource &source;
     int openElements = 0;
-    QSet<QString> prefixes;
+    PrefixScope prefixes;
 };

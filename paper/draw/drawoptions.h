@@ -3,8 +3,8 @@
 #include "filename.h"
 #include "picture.h"
 
-#include <QList>
 #include <QByteArrayList>
+#include <QList>
 
 #include <array>
 
@@ -32,6 +32,6 @@ struct DrawOptions
     QByteArray encoding;
 };
 
-/// Reads the words behind the program's name, as the system has them; prints the help and ends the program where they ask for it.
-/// Throws a CommandError (WrongUsage).
+/// Reads the words behind the program's name, as the system has them; prints the help and ends the program
+/// where they ask for it. Throws a CommandError (WrongUsage).
 DrawOptions drawOptions(const QByteArrayList &words);

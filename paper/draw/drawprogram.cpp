@@ -78,10 +78,11 @@ void tellMissing(const QStringList &characters)
     constexpr int most = 10;
     if (characters.isEmpty())
         return;
-    const QString warning = u"palvestrin-draw: warning: no installed font has %1%2, which are drawn as boxes; the "
-                            "packages fonts-noto-cjk and fonts-symbola have many characters\n"_s.arg(
-                                characters.first(qMin(most, characters.size())).join(u' '),
-                                characters.size() > most ? u" and others"_s : u""_s);
+    const QString warning =
+        u"palvestrin-draw: warning: no installed font has %1%2, which are drawn as boxes; the "
+        "packages fonts-noto-cjk and fonts-symbola have many characters\n"_s.arg(
+            characters.first(qMin(most, characters.size())).join(u' '),
+            characters.size() > most ? u" and others"_s : u""_s);
     std::cerr << LocaleEncoding().encode(warning).toStdString();
 }
 

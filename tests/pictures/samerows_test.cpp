@@ -174,7 +174,8 @@ private Q_SLOTS:
         std::vector<Case> cases;
         for (quint32 seed = 0; seed < count; ++seed) {
             const QByteArray job = randomJob(seed);
-            if (job.contains("&#34;@&#10;")) // a text that ends its own line: what follows is anybody's reading
+            if (job.contains(
+                    "&#34;@&#10;")) // a text that ends its own line: what follows is anybody's reading
                 continue;
             const int columns = 24 + int(seed % 41);
             cases.push_back({u"job %1"_s.arg(seed), printed(job, randomConfiguration(seed)), columns});

@@ -224,6 +224,28 @@ const Row rows[] = {
                         times(20'000, "<b/>") + "</a>" + tail,
                     wholeJob};
      }},
+    {"three hundred namespaces around a long receipt",
+     [] {
+         return Job{head + "<a" + numbered(300, [](auto n) { return " xmlns:a" + n + "=\"v\""; }) + '>' +
+                        times(2'000, "<b/>") + "</a>" + tail,
+                    wholeJob};
+     }},
+    {"three hundred namespaces, each around the next",
+     [] {
+         const QByteArray begin = numbered(300, [](auto n) { return "<a xmlns:a" + n + "=\"v\">"; });
+         return Job{head + begin + times(300, "</a>") + tail, wholeJob};
+     }},
+    {"20,000 namespaces, one at each of 20,000 elements in turn",
+     [] {
+         return Job{head + numbered(20'000, [](auto n) { return "<a xmlns:a" + n + "=\"v\"/>"; }) + tail,
+                    wholeJob};
+     }},
+    {"1,000 namespaces in scope of 20,000 elements",
+     [] {
+         return Job{head + "<a" + numbered(1'000, [](auto n) { return " xmlns:a" + n + "=\"v\""; }) + '>' +
+                        times(20'000, "<b/>") + "</a>" + tail,
+                    opened};
+     }},
     {"one namespace declared 100,000 times",
      [] {
          return Job{head + times(100'000, "<a xmlns:b=\"v\" xmlns=\"w\"/>") + tail, wholeJob};

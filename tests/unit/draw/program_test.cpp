@@ -217,13 +217,12 @@ private Q_SLOTS:
     void whereNothingCanBeWritten()
     {
         const Run noFolder = runWith(receipt, toFile(u"png"_s, u"no/such/folder.png"_s));
-        QCOMPARE(noFolder.errors, folder.path(u"no/such/folder.png"_s).toUtf8() +
-                                      ": error: No such file or directory\n");
+        QCOMPARE(noFolder.errors,
+                 folder.path(u"no/such/folder.png"_s).toUtf8() + ": error: No such file or directory\n");
         QCOMPARE(noFolder.exitCode, codeOf(ExitCode::WriteFailed));
 
         const Run full = runWith(receipt, {u"--format"_s, u"png"_s, u"--output"_s, u"/dev/full"_s});
-        QCOMPARE(full.errors,
-                 QByteArray("/dev/full: error: No space left on device\n"));
+        QCOMPARE(full.errors, QByteArray("/dev/full: error: No space left on device\n"));
         QCOMPARE(full.exitCode, codeOf(ExitCode::WriteFailed));
     }
 
