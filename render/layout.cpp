@@ -21,14 +21,18 @@ int leftOver(int paper, Widths... taken)
 
 } // namespace
 
-QString PrinterDriver::descriptionRow(const QString &quantity, const QString &description,
-                                      const QString &price, const QString &total, QChar fill,
+QString PrinterDriver::descriptionRow(const QString &quantityText, const QString &descriptionText,
+                                      const QString &priceText, const QString &totalText, QChar fill,
                                       const QString &style) const
 {
+    const QString quantity = printable(quantityText);
+    const QString description = printable(descriptionText);
+    const QString price = printable(priceText);
+    const QString total = printable(totalText);
     const int Q = quantityFieldWidth;
     const int P = priceFieldWidth;
     const int T = totalPriceFieldWidth;
-    const int W = paperWidth;
+    const int W = rowWidth();
     const QChar blank = u' ';
 
     // The description is the one column that is cut: it loses its tail, whatever else the row holds.
@@ -86,5 +90,5 @@ void PrinterDriver::printColumnsHeader(const QString &quantity, const QString &d
 
 void PrinterDriver::printSeparatorLine()
 {
-    println(columns::leftJustified(QString(), paperWidth, u'='));
+    println(columns::leftJustified(QString(), rowWidth(), u'='));
 }

@@ -26,8 +26,8 @@ constexpr int valueWidth = 15; ///< what a dotted line leaves free for its value
 
 void printDottedLabel(PrinterDriver &driver, const QString &label)
 {
-    const int width = qMax<qint64>(0, qint64(driver.settings().paperWidth) - valueWidth);
-    driver.print(0, columns::leftJustified(label, width, u'.'));
+    const int width = qMax<qint64>(0, qint64(driver.rowWidth()) - valueWidth);
+    driver.print(0, columns::leftJustified(driver.printable(label), width, u'.'));
 }
 
 } // namespace

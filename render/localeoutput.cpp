@@ -23,9 +23,12 @@ LocaleOutput::LocaleOutput(const QByteArray &fileName, bool append)
 
 LocaleOutput &LocaleOutput::operator<<(const QString &text)
 {
-    if (!error.isNull())
-        return *this;
-    if (!write(encoding.encode(text)))
+    return *this << encoding.encode(text);
+}
+
+LocaleOutput &LocaleOutput::operator<<(const QByteArray &bytes)
+{
+    if (error.isNull() && !write(bytes))
         fail();
     return *this;
 }

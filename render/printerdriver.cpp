@@ -74,6 +74,16 @@ bool PrinterDriver::chooseMethod(const QString &name)
     return true;
 }
 
+int PrinterDriver::rowWidth() const
+{
+    return paperWidth;
+}
+
+QString PrinterDriver::printable(const QString &text) const
+{
+    return text;
+}
+
 void PrinterDriver::reset() {}
 
 void PrinterDriver::initPrinter() {}

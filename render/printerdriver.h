@@ -61,7 +61,13 @@ public:
 
     // The device.
     virtual unsigned int getPaperWidth() = 0; ///< characters on a line of this printer
-    virtual void reset();                     ///< the start of a job; nothing to do by default
+    /// Characters on a row of the current document in the current size: the `paperWidth` setting, unless
+    /// large characters take more than one column each.
+    virtual int rowWidth() const;
+    /// `text` in the characters that this printer prints for it, one to a column: rows are laid out of them.
+    /// The text itself by default.
+    virtual QString printable(const QString &text) const;
+    virtual void reset(); ///< the start of a job; nothing to do by default
     virtual void setBold() = 0;
     virtual void setCharSize() = 0; ///< normal size; also ends centring
     virtual void setCharSize(int size) = 0;

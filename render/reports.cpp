@@ -16,14 +16,14 @@ constexpr int amountWidth = 10;
 constexpr int serialWidth = 10;
 constexpr int cancelledTotalWidth = 11;
 
-QString right(const QString &text, int width)
+QString right(const PrinterDriver &driver, const QString &text, int width)
 {
-    return columns::rightJustified(text, width, u' ');
+    return columns::rightJustified(driver.printable(text), width, u' ');
 }
 
-QString left(const QString &text, int width)
+QString left(const PrinterDriver &driver, const QString &text, int width)
 {
-    return columns::leftJustified(text, width, u' ');
+    return columns::leftJustified(driver.printable(text), width, u' ');
 }
 
 /// A blank line and the title, centred; then a blank line at the left.
@@ -46,9 +46,9 @@ QString valueAt(const QXmlAttributes &attributes, int index)
 void printCancelledRow(PrinterDriver &driver, const QString &serial, const QString &total,
                        const QString &taxRate)
 {
-    driver.print(0, left(serial, serialWidth));
-    driver.print(0, left(total, cancelledTotalWidth));
-    driver.println(left(taxRate, serialWidth));
+    driver.print(0, left(driver, serial, serialWidth));
+    driver.print(0, left(driver, total, cancelledTotalWidth));
+    driver.println(left(driver, taxRate, serialWidth));
 }
 
 } // namespace
@@ -81,19 +81,20 @@ void printReceiptsSummary(PrinterDriver &driver, const QXmlAttributes &attribute
     printLines(driver, vocabulary::receiptsSummaryAttributes, attributes);
     driver.println(QString());
     driver.printSeparatorLine();
-    driver.println(right(QObject::tr("TAXRATE"), rateWidth) + u' ' +
-                   right(QObject::tr("TAXABLE"), amountWidth) + u' ' +
-                   right(QObject::tr("TAX"), amountWidth) + u' ' + right(QObject::tr("AMOUNT"), amountWidth));
+    driver.println(right(driver, QObject::tr("TAXRATE"), rateWidth) + u' ' +
+                   right(driver, QObject::tr("TAXABLE"), amountWidth) + u' ' +
+                   right(driver, QObject::tr("TAX"), amountWidth) + u' ' +
+                   right(driver, QObject::tr("AMOUNT"), amountWidth));
 }
 
 void printTaxRateRow(PrinterDriver &driver, const QXmlAttributes &attributes)
 {
     // The percent sign makes the row one character wider than its header, and a blank ends it: both stay
     // as they are.
-    driver.println(right(attributes.value("taxrate"_L1), rateWidth) + "% "_L1 +
-                   right(attributes.value("taxable"_L1), amountWidth) + u' ' +
-                   right(attributes.value("tax"_L1), amountWidth) + u' ' +
-                   right(attributes.value("amount"_L1), amountWidth) + u' ');
+    driver.println(right(driver, attributes.value("taxrate"_L1), rateWidth) + "% "_L1 +
+                   right(driver, attributes.value("taxable"_L1), amountWidth) + u' ' +
+                   right(driver, attributes.value("tax"_L1), amountWidth) + u' ' +
+                   right(driver, attributes.value("amount"_L1), amountWidth) + u' ');
 }
 
 void printInvoicesSummary(PrinterDriver &driver, const QXmlAttributes &attributes)
