@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <vector>
@@ -40,6 +41,26 @@ struct Row
     QString meaning; ///< what a register command does, in words; "" for a row of paper
 };
 
+/// Dots of a picture as the head burns them: 12 across a column and 24 down a row of text.
+struct Picture
+{
+    static constexpr int dotsPerColumn = 12;
+    static constexpr int dotsPerRow = 24;
+
+    int left = 0; ///< dots between the edge of the paper and the picture
+    int width = 0;
+    int height = 0;
+    /// Rows of `bytesPerRow` bytes, the left dot in the highest bit; a set bit is black.
+    QByteArray dots;
+
+    int bytesPerRow() const { return (width + 7) / 8; }
+    /// False outside the picture too.
+    bool isBlack(int x, int y) const;
+};
+
+/// The picture in the characters of text that come nearest to it, a row for every 24 dots begun.
+std::vector<Row> rowsOf(const Picture &picture);
+
 /// What happens between two rows.
 enum class Event { Cut, Drawer, TearOff };
 
@@ -56,6 +77,9 @@ public:
     virtual ~Painter() = default;
     virtual void beginStrip(StripKind kind) = 0;
     virtual void row(const Row &row) = 0;
+    /// A piece of a picture, which may continue the one before it. By default it is painted with rows of
+    /// characters.
+    virtual void picture(const Picture &picture);
     virtual void event(Event event) = 0;
     /// Tells what is not on the paper but about it: the sum that a register will show. For people; a painter
     /// that shows rows only leaves it out.
