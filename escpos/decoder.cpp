@@ -1,0 +1,314 @@
+// Rows, styles and events. Pictures and codes are in decoderpictures.cpp.
+
+#include "decoder.h"
+
+#include "codepages.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int fontDots[] = {12, 9, 9}; ///< across a character of font A, B, C
+constexpr int tabColumns = 8;
+constexpr int rowHeight = 24; ///< dots
+/// Rows longer than any paper are broken, so that a stream without line ends takes no memory.
+constexpr std::size_t maxCells = 100'000;
+/// Bytes; only data that ends with a zero byte can be longer, and it is never printed whole.
+constexpr qsizetype maxGathered = 200'000;
+
+/// Many commands take the digit "1" for 1.
+int value(const Command &command)
+{
+    const int parameter = command.parameter(0);
+    return parameter >= '0' && parameter <= '9' ? parameter - '0' : parameter;
+}
+
+} // namespace
+
+Decoder::Decoder(paper::Painter &paperPainter, const Profile &printer, Width rowWidth)
+    : reader(*this), painter(paperPainter), profile(printer), width(rowWidth), page(findCodePage(0))
+{
+}
+
+void Decoder::end()
+{
+    reader.end();
+    finishPicture();
+    if (!row.cells.empty())
+        remark(u"the last row is not ended, so the printer keeps it"_s);
+    if (stripIsOpen)
+        painter.endStrip();
+    stripIsOpen = false;
+}
+
+void Decoder::text(qint64, QByteArrayView bytes)
+{
+    for (const char byte : bytes) {
+        const auto code = static_cast<unsigned char>(byte);
+        const bool isHalf = isChinese && code >= CodePage::firstHigh; // two such bytes are one Chinese letter
+        const char16_t character = isHalf ? CodePage::noCharacter : page->characterOf(code);
+        put(character, character == CodePage::noCharacter);
+    }
+}
+
+void Decoder::command(const Command &command)
+{
+    current = command;
+    gathered.clear();
+    whole = nullptr;
+    rasterBytes = 0;
+    if (command.kind->run)
+        (this->*command.kind->run)(command);
+}
+
+void Decoder::data(qint64, QByteArrayView bytes)
+{
+    if (rasterBytes > 0) {
+        gathered += bytes;
+        addRaster();
+    } else if (whole && gathered.size() < maxGathered) {
+        gathered += bytes;
+    }
+}
+
+void Decoder::endOfCommand()
+{
+    if (whole)
+        (this->*whole)();
+    whole = nullptr;
+    gathered.clear();
+}
+
+void Decoder::unknown(qint64 offset, QByteArrayView bytes)
+{
+    remark(u"unknown command %1 at byte %2, skipped"_s.arg(hexOf(bytes)).arg(offset));
+}
+
+void Decoder::torn(qint64 offset, QByteArrayView bytes)
+{
+    remark(u"the stream ends in the middle of command %1 at byte %2"_s.arg(hexOf(bytes)).arg(offset));
+}
+
+void Decoder::put(char32_t character, bool isBroken)
+{
+    finishPicture();
+    if (width == Width::OfPaper && rowDots + cellDots() > profile.dots)
+        finishRow();
+    if (row.cells.size() >= maxCells)
+        finishRow();
+    row.cells.push_back({character, style, isBroken});
+    rowDots += cellDots();
+}
+
+void Decoder::putBlanksTo(int dots)
+{
+    const int end = std::min(dots, room());
+    while (rowDots + cellDots() <= end)
+        put(U' ', false);
+}
+
+/// Paints the row as it stands now.
+void Decoder::finishRow()
+{
+    finishPicture();
+    openStrip();
+    const int blanks = indentation(rowDots) / fontDots[font];
+    row.cells.insert(row.cells.begin(), blanks, paper::Cell());
+    painter.row(row);
+    row.cells.clear();
+    rowDots = 0;
+}
+
+void Decoder::openStrip()
+{
+    if (stripIsOpen)
+        return;
+    stripIsOpen = true;
+    painter.beginStrip(paper::StripKind::Paper);
+}
+
+void Decoder::remark(const QString &text)
+{
+    openStrip();
+    painter.remark(text);
+}
+
+/// Dots across a character in the current style.
+int Decoder::cellDots() const
+{
+    return fontDots[font] * (style.doubleWidth ? 2 : 1);
+}
+
+/// Dots across the paper.
+int Decoder::room() const
+{
+    return profile.dots / fontDots[font] * fontDots[font];
+}
+
+/// Dots in front of what is `dots` wide.
+int Decoder::indentation(int dots) const
+{
+    const int rest = std::max(0, room() - dots);
+    return justify == Justify::Left ? 0 : justify == Justify::Centre ? rest / 2 : rest;
+}
+
+void Decoder::tabulate(const Command &)
+{
+    const int stop = tabColumns * fontDots[font];
+    putBlanksTo((rowDots / stop + 1) * stop);
+}
+
+void Decoder::endRow(const Command &)
+{
+    endRow();
+}
+
+void Decoder::endRow()
+{
+    if (pictureEndsWithRow)
+        finishPicture();
+    else
+        finishRow();
+}
+
+void Decoder::dropRow(const Command &)
+{
+    row.cells.clear();
+    rowDots = 0;
+}
+
+void Decoder::feedRows(const Command &command)
+{
+    feed(command.parameter(0));
+}
+
+void Decoder::feedDots(const Command &command)
+{
+    feed(command.parameter(0) / rowHeight);
+}
+
+/// Ends the row, if there is one, which is the first of `rows`.
+void Decoder::feed(int rows)
+{
+    int fed = 0;
+    if (!row.cells.empty() || pictureEndsWithRow) {
+        endRow();
+        ++fed;
+    }
+    for (; fed < rows; ++fed)
+        finishRow();
+}
+
+void Decoder::moveTo(const Command &command)
+{
+    putBlanksTo(command.wideParameter(0));
+}
+
+void Decoder::moveBy(const Command &command)
+{
+    putBlanksTo(rowDots + command.wideParameter(0));
+}
+
+void Decoder::initialise(const Command &)
+{
+    finishPicture();
+    if (!row.cells.empty())
+        remark(u"a row was begun and not ended: the printer drops it"_s);
+    row.cells.clear();
+    rowDots = 0;
+    page = findCodePage(0);
+    isChinese = false;
+    style = paper::Style();
+    font = 0;
+    justify = Justify::Left;
+}
+
+void Decoder::enterChinese(const Command &command)
+{
+    isChinese = true;
+    remark(u"Chinese mode from byte %1 on: accents are lost in it"_s.arg(command.offset));
+}
+
+void Decoder::leaveChinese(const Command &)
+{
+    isChinese = false;
+}
+
+void Decoder::setCodePage(const Command &command)
+{
+    const CodePage *chosen = findCodePage(command.parameter(0));
+    if (chosen)
+        page = chosen;
+    else
+        remark(u"unknown code page %1 at byte %2: letters are shown in %3"_s.arg(command.parameter(0))
+                   .arg(command.offset)
+                   .arg(page->name));
+}
+
+void Decoder::setFont(const Command &command)
+{
+    font = std::min(value(command), int(std::size(fontDots)) - 1);
+}
+
+void Decoder::setSize(const Command &command)
+{
+    style.doubleWidth = command.parameter(0) / 16 > 0;
+    style.doubleHeight = command.parameter(0) % 16 > 0;
+}
+
+void Decoder::setPrintMode(const Command &command)
+{
+    const int mode = command.parameter(0);
+    font = mode & 0x01;
+    style.bold = mode & 0x08;
+    style.doubleHeight = mode & 0x10;
+    style.doubleWidth = mode & 0x20;
+    style.underlined = mode & 0x80;
+}
+
+void Decoder::setBold(const Command &command)
+{
+    style.bold = command.parameter(0) & 1;
+}
+
+void Decoder::setUnderlined(const Command &command)
+{
+    style.underlined = value(command) > 0;
+}
+
+void Decoder::setInverse(const Command &command)
+{
+    style.inverse = command.parameter(0) & 1;
+}
+
+void Decoder::setJustify(const Command &command)
+{
+    if (!row.cells.empty()) // told in the middle of a row, it is not obeyed
+        return;
+    finishPicture();
+    const int side = value(command);
+    if (side <= int(Justify::Right))
+        justify = Justify(side);
+}
+
+void Decoder::cut(const Command &)
+{
+    finishPicture();
+    if (!row.cells.empty())
+        finishRow();
+    openStrip();
+    painter.event(paper::Event::Cut);
+}
+
+void Decoder::openDrawer(const Command &)
+{
+    openStrip();
+    painter.event(paper::Event::Drawer);
+}
+
+void Decoder::tellUnseen(const Command &command)
+{
+    remark(u"%1 at byte %2 is not shown"_s.arg(hexOf(command.bytes)).arg(command.offset));
+}
