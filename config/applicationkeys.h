@@ -21,6 +21,8 @@ inline constexpr QLatin1StringView dbPassword = "palvestrin.db.password"_L1;
 inline constexpr QLatin1StringView dbHostName = "palvestrin.db.hostname"_L1;
 inline constexpr QLatin1StringView binPath = "palvestrin.bin.path"_L1;
 
+inline constexpr QLatin1StringView escposLogo = "palvestrin.escpos.logo"_L1;
+
 } // namespace applicationkey
 
 namespace vocabulary {
@@ -60,6 +62,9 @@ inline constexpr ApplicationKey applicationKeys[] = {
     {applicationkey::binPath, ValueKind::Text,
      "directory of the application's programs; a \"/\" and the name follow"_L1, "the root directory"_L1,
      "utilities"_L1},
+    {applicationkey::escposLogo, ValueKind::Text,
+     "picture file (PBM) that a receipt printer prints for the logo"_L1,
+     "the picture in the printer's own memory"_L1, "receipt printer"_L1},
 };
 
 } // namespace vocabulary

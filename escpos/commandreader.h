@@ -4,7 +4,8 @@
 
 #include <QByteArray>
 
-/// Takes what a stream of ESC/POS bytes consists of, in its order. Every byte of the stream is handed on once.
+/// Takes what a stream of ESC/POS bytes consists of, in its order. Every byte of the stream is handed on
+/// once.
 class CommandSink
 {
 public:
@@ -42,8 +43,8 @@ private:
     void endCommand();
 
     CommandSink &sink;
-    qint64 offset = 0;     ///< of the byte that comes next
-    QByteArray head;       ///< of the command that is being read
+    qint64 offset = 0; ///< of the byte that comes next
+    QByteArray head;   ///< of the command that is being read
     qint64 headOffset = 0;
     bool inData = false;
     bool untilZero = false;

@@ -13,8 +13,8 @@ struct CodePage;
 /// Shows what a printer prints for a stream of ESC/POS bytes, whoever made them.
 ///
 /// What a printer would do and paper cannot show is told as a remark: commands that nobody knows, codes that
-/// are not drawn, rows that were begun and never ended. Any bytes whatsoever are taken, and the memory is that
-/// of one row or picture, whatever the length of the stream.
+/// are not drawn, rows that were begun and never ended. Any bytes whatsoever are taken, and the memory is
+/// that of one row or picture, whatever the length of the stream.
 class Decoder : private CommandSink
 {
 public:
@@ -102,18 +102,18 @@ private:
     paper::Style style;
     int font = 0;
     Justify justify = Justify::Left;
-    paper::Row row;  ///< in the making
-    int rowDots = 0; ///< what stands in it takes
-    paper::Picture picture; ///< rows of dots that have not been painted yet
+    paper::Row row;                  ///< in the making
+    int rowDots = 0;                 ///< what stands in it takes
+    paper::Picture picture;          ///< rows of dots that have not been painted yet
     bool pictureEndsWithRow = false; ///< it stands in a row, whose end feeds it
 
-    Command current;     ///< whose data is being read
-    QByteArray gathered; ///< of its data, as much as is needed
+    Command current;                    ///< whose data is being read
+    QByteArray gathered;                ///< of its data, as much as is needed
     void (Decoder::*whole)() = nullptr; ///< what to do with it when it is there
     int rasterMode = 0;
-    int rasterBytes = 0; ///< of a row of the raster picture that is being read; 0: none is
+    int rasterBytes = 0;     ///< of a row of the raster picture that is being read; 0: none is
     paper::Picture graphics; ///< that wait to be printed
-    QByteArray codeText; ///< of the QR code that waits to be printed
-    int codeModule = 3;  ///< dots of its smallest square
-    int codeLevel = 0;   ///< of its error correction, from 0 to 3
+    QByteArray codeText;     ///< of the QR code that waits to be printed
+    int codeModule = 3;      ///< dots of its smallest square
+    int codeLevel = 0;       ///< of its error correction, from 0 to 3
 };

@@ -1,7 +1,6 @@
 // Pictures and codes.
 
 #include "decoder.h"
-
 #include "qrcode.h"
 
 #include <algorithm>
@@ -134,7 +133,8 @@ void Decoder::printCode()
     finishPicture();
     addDots(code, 1, 1);
     finishPicture();
-    remark(code.height > 0 ? u"QR code of %1"_s.arg(quoted(codeText)) : u"a QR code without a text that fits"_s);
+    remark(code.height > 0 ? u"QR code of %1"_s.arg(quoted(codeText))
+                           : u"a QR code without a text that fits"_s);
 }
 
 void Decoder::startBarCode(const Command &)

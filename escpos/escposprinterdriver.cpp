@@ -1,5 +1,6 @@
 #include "escposprinterdriver.h"
 
+#include "applicationkeys.h"
 #include "columns.h"
 #include "commands.h"
 #include "localeoutput.h"
@@ -26,16 +27,16 @@ constexpr int firstStoredPicture = 1;
 constexpr int drawerOn = 25; ///< 50 ms, which opens every drawer
 constexpr int drawerOff = 250;
 
-/// What a job torn in the middle of a command may still take for its parameters: a row of a picture is the
-/// longest. The printer ignores these bytes otherwise.
-QByteArray padding(const Profile &profile)
+/// What the printer takes for the missing rest of a picture, at most one row with its command, when the job
+/// before was torn in it. The printer ignores these bytes otherwise.
+QByteArray restOfPicture(const Profile &profile)
 {
-    return profile.pictures ? QByteArray(profile.dots / 8, '\0') : QByteArray();
+    return QByteArray(profile.dots / 8 + 7, '\0');
 }
 
 bool isRegisterMethod(const QString &name)
 {
-    const PrintMethod *method = findPrintMethod(name);
+    const vocabulary::PrintMethod *method = vocabulary::findPrintMethod(name);
     return method && method->kind == "fiscal"_L1;
 }
 
@@ -60,9 +61,9 @@ QStringList EscPosPrinterDriver::troubles() const
 
 bool EscPosPrinterDriver::startDocument()
 {
-    const bool goesOn = PrinterDriver::startDocument();
-    send(padding(profile));
-    return goesOn;
+    if (profile.pictures && !logoPath().isEmpty())
+        send(restOfPicture(profile));
+    return PrinterDriver::startDocument();
 }
 
 bool EscPosPrinterDriver::startElement(const QString &namespaceUri, const QString &localName,
@@ -84,7 +85,7 @@ unsigned int EscPosPrinterDriver::getPaperWidth()
 
 int EscPosPrinterDriver::rowWidth() const
 {
-    return documentSettings.paperWidth / sizes[mode.size].width;
+    return paperWidth / sizes[mode.size].width;
 }
 
 QString EscPosPrinterDriver::printable(const QString &text) const
@@ -95,7 +96,7 @@ QString EscPosPrinterDriver::printable(const QString &text) const
 void EscPosPrinterDriver::reset()
 {
     send(command::with(command::initialise, {}) + command::with(command::leaveChinese, {}));
-    const int width = documentSettings.paperWidth;
+    const int width = paperWidth;
     if (width > profile.columns && width <= profile.narrowColumns)
         send(command::with(command::font, {1})); // before the code page: some printers lose it with the font
     sentPage = profile.codePages.front();
@@ -151,12 +152,24 @@ void EscPosPrinterDriver::startSection()
     openDrawerOnce(); // before anything is kept for the copies
     sectionIsOpen = true;
     rowsPrinted = 0;
-    pageRows = documentSettings.paperRows;
-    copies = std::clamp(documentValue(u"copyNumber"_s).toInt(), 1, maxCopies);
+    pageRows = paperRows;
+    copies = configuredCopies();
     line.clear();
     if (copies > 1)
         spool.start();
     reset();
+}
+
+int EscPosPrinterDriver::configuredCopies() const
+{
+    const vocabulary::PrintMethod *method = vocabulary::findPrintMethod(currentMethod);
+    const vocabulary::DocumentKind *kind =
+        method ? vocabulary::findDocumentKind(QString(method->kind)) : nullptr;
+    if (!kind)
+        return 1;
+    const QString block = (kind->hasCopyNumber ? *kind : vocabulary::fallbackKind).path();
+    const int number = configuration->getStrValue(block + vocabulary::copyNumberSetting).toInt();
+    return std::clamp(number, 1, maxCopies);
 }
 
 void EscPosPrinterDriver::endSection()
@@ -166,9 +179,9 @@ void EscPosPrinterDriver::endSection()
 
 void EscPosPrinterDriver::openDrawerOnce()
 {
-    const PrintMethod *method = findPrintMethod(currentMethod);
+    const vocabulary::PrintMethod *method = vocabulary::findPrintMethod(currentMethod);
     const bool isReceipt = method && method->kind == "receipt"_L1;
-    if (drawerIsOpen || !isReceipt || !documentSettings.openCashDrawer)
+    if (drawerIsOpen || !isReceipt || !openCashDrawer)
         return;
     drawerIsOpen = true;
     generatePulse();
@@ -220,7 +233,7 @@ void EscPosPrinterDriver::println(const QString &text)
 
 void EscPosPrinterDriver::printLogo()
 {
-    if (documentSettings.printLogo)
+    if (DocumentSettings::printLogo)
         send(logoCommands());
 }
 
@@ -230,7 +243,7 @@ void EscPosPrinterDriver::centre()
     qint64 taken = 0;
     for (const Piece &piece : line)
         taken += piece.text.size() * sizes[piece.mode.size].width;
-    const qint64 room = documentSettings.paperWidth - taken;
+    const qint64 room = paperWidth - taken;
     if (taken > 0 && room > 0 && room <= columns::maxWidth)
         line.insert(line.begin(), {QString(room / (2 * sizes[mode.size].width), u' '), mode});
 }
@@ -285,13 +298,18 @@ void EscPosPrinterDriver::write(const QByteArray &bytes)
         *output << bytes;
 }
 
+QString EscPosPrinterDriver::logoPath() const
+{
+    return configuration->getStrValue(applicationkey::escposLogo);
+}
+
 /// Read when it is first asked for. Nothing when there is none, or none that this printer can print.
 const QByteArray &EscPosPrinterDriver::logoCommands()
 {
     if (logoIsRead)
         return logo;
     logoIsRead = true;
-    const QString path = configuration->getStrValue(u"palvestrin.escpos.logo"_s);
+    const QString path = logoPath();
     if (path.isEmpty()) {
         if (profile.storedLogo)
             logo = command::with(command::storedLogo, {firstStoredPicture, 0});

@@ -11,14 +11,16 @@
 
 /// A receipt printer that speaks ESC/POS.
 ///
-/// The output is bytes, told of one by one in docs/escpos.md. Each document begins with an initialised printer
-/// and ends with feed and cut, so it looks the same whatever was printed before it. Rows are ended by a line
-/// feed; a change of bold, size or code page is sent in front of the first letter that it concerns. Centred
-/// rows have blanks in front of them: the printer would centre on its paper, not on the document's rows.
+/// The output is bytes, told of one by one in docs/escpos.md. Each document begins with an initialised
+/// printer and ends with feed and cut, so it looks the same whatever was printed before it. Rows are ended by
+/// a line feed; a change of bold, size or code page is sent in front of the first letter that it concerns.
+/// Centred rows have blanks in front of them: the printer would centre on its paper, not on the document's
+/// rows.
 ///
 /// What a document asks for with its settings: `paperWidth` above the columns of the usual font takes the
-/// narrow one, where that is wide enough; `paperRows` fills up the last page; `copyNumber` repeats the document;
-/// `openCashDrawer` opens the drawer once before the first receipt; `printLogo` lets the `logo` element print.
+/// narrow one, where that is wide enough; `paperRows` fills up the last page; `copyNumber` repeats the
+/// document; `openCashDrawer` opens the drawer once before the first receipt; `printLogo` lets the `logo`
+/// element print.
 ///
 /// Register documents are refused: the job ends there, and `refusal` says why.
 class EscPosPrinterDriver : public PrinterDriver
@@ -76,6 +78,7 @@ private:
         Mode mode;
     };
 
+    int configuredCopies() const;
     void openDrawerOnce();
     void closeSection();
     void fillUpPage();
@@ -86,6 +89,7 @@ private:
     QByteArray changeOfPage(int wanted);
     void send(const QByteArray &bytes);
     void write(const QByteArray &bytes);
+    QString logoPath() const;
     const QByteArray &logoCommands();
 
     const Profile &profile;
@@ -98,11 +102,11 @@ private:
     Spool spool;
     bool sectionIsOpen = false;
     bool drawerIsOpen = false;
-    int copies = 1;      ///< of the current document
-    int pageRows = 0;    ///< its `paperRows`
+    int copies = 1;   ///< of the current document
+    int pageRows = 0; ///< its `paperRows`
     qint64 rowsPrinted = 0;
-    Mode mode;           ///< what was asked for last
-    Mode sentMode;       ///< what the printer is in
+    Mode mode;     ///< what was asked for last
+    Mode sentMode; ///< what the printer is in
     int sentPage = 0;
     std::vector<Piece> line; ///< the row in the making
 };

@@ -36,9 +36,9 @@ void HexListing::command(const Command &command)
 {
     finish();
     list(command.offset, command.bytes, command.meaning());
-    const CodePage *chosen = command.kind->bytes == command::codePage ? findCodePage(command.parameter(0))
+    const CodePage *chosen = command.kind->bytes == command::codePage     ? findCodePage(command.parameter(0))
                              : command.kind->bytes == command::initialise ? findCodePage(0)
-                                                                           : nullptr;
+                                                                          : nullptr;
     if (chosen)
         page = chosen;
 }

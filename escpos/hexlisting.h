@@ -8,8 +8,8 @@
 
 struct CodePage;
 
-/// Lists a stream of ESC/POS bytes, a line for each command and each piece of text: where it stands, its bytes,
-/// what it means.
+/// Lists a stream of ESC/POS bytes, a line for each command and each piece of text: where it stands, its
+/// bytes, what it means.
 ///
 ///     00000000  1B 40                    initialise
 ///     00000002  1B 74 13                 code page 19, CP858

@@ -58,8 +58,11 @@ QString Letters::printable(const QString &text, LostCharacters &lost) const
 {
     if (std::all_of(text.begin(), text.end(), isPlain))
         return text;
+    QString visible = text;
+    visible.removeIf(
+        [](QChar each) { return isUnprintable(each.unicode()); }); // first: they may part accents
     QString result;
-    for (const char32_t character : composed(text).toUcs4())
+    for (const char32_t character : composed(visible).toUcs4())
         result += formOf(character, lost);
     return result;
 }

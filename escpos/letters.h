@@ -36,10 +36,10 @@ public:
 
     explicit Letters(const Profile &profile) : codePages(profile.codePages) {}
 
-    /// What is printed for `text`: characters of the printer's code pages, one to a column. Control characters
-    /// are taken out, here and nowhere else: no text commands the printer. A character that no page has prints
-    /// as what the toolkit decomposes it into ("e" for a missing "è"), else as "?", and is added to `lost`;
-    /// one that is two columns wide stays so. What comes out goes in again unchanged.
+    /// What is printed for `text`: characters of the printer's code pages, one to a column. Control
+    /// characters are taken out, here and nowhere else: no text commands the printer. A character that no
+    /// page has prints as what the toolkit decomposes it into ("e" for a missing "è"), else as "?", and is
+    /// added to `lost`; one that is two columns wide stays so. What comes out goes in again unchanged.
     QString printable(const QString &text, LostCharacters &lost) const;
 
     /// The bytes of a row of printable characters, with as few changes of the code page as can be, beginning

@@ -49,7 +49,10 @@ public:
 private:
     static constexpr int maxNumber = 1'000'000;
 
-    static bool isBlank(char character) { return character == ' ' || (character >= '\t' && character <= '\r'); }
+    static bool isBlank(char character)
+    {
+        return character == ' ' || (character >= '\t' && character <= '\r');
+    }
     qsizetype endOfLine() const
     {
         const qsizetype end = text.indexOf('\n', place);

@@ -14,9 +14,9 @@ struct Profile
 
     QLatin1StringView name; ///< as people give it on the command line
     QLatin1StringView title;
-    int columns = 0;       ///< characters on a row in font A, the usual one
-    int narrowColumns = 0; ///< in font B, the narrow one; 0 where it is better not used
-    int dots = 0;          ///< across the paper; a character of font A takes 12
+    int columns = 0;                     ///< characters on a row in font A, the usual one
+    int narrowColumns = 0;               ///< in font B, the narrow one; 0 where it is better not used
+    int dots = 0;                        ///< across the paper; a character of font A takes 12
     std::span<const int> codePages = {}; ///< numbers; a row is printed in the first that has all its letters
     Cutter cutter = Cutter::None;
     int rowsToTearBar = 0; ///< fed before a document is cut or torn off; 0: the cut feeds by itself

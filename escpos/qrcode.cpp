@@ -1,7 +1,8 @@
 #include "qrcode.h"
 
-#include <memory>
 #include <qrencode.h>
+
+#include <memory>
 
 paper::Picture qrCode(const QByteArray &text, int level, int module)
 {

@@ -20,13 +20,13 @@ struct DocumentSettings
     int priceFieldWidth = 0; ///< unit price; the amount in a statement of account
     int totalPriceFieldWidth = 0;
     int paperWidth = 0;
-    int paperRows = 0;        ///< kept for a device that feeds sheets; nothing consults it yet
+    int paperRows = 0;        ///< of a page, for a device that has pages
     int topMargin = 0;        ///< empty lines
     int descriptionWidth = 0; ///< what a cash register takes of a description; 0 means the printer's width
 
     bool printGeometry = false;
     bool printHeader = false;
-    bool printLogo = false; ///< kept for the device; the logo element reaches it whatever this says
+    bool printLogo = false; ///< for the device; the logo element reaches it whatever this says
     bool printCompany = false;
     bool printDeliveryAddress = false;
     bool printTelephone = false;
@@ -40,7 +40,7 @@ struct DocumentSettings
     bool printCredit = false;
     bool printWaiter = false;
     bool printNote = false;
-    bool openCashDrawer = false; ///< kept for the device; nothing consults it yet
+    bool openCashDrawer = false; ///< for a device that has a drawer
 
     /// Reads every setting under the key prefix `docPath`, for instance "palvestrin.receiptdoc.". A number
     /// that is missing or none is 0; a flag is true only for exactly "true".
@@ -73,11 +73,12 @@ inline constexpr DocumentSetting documentSettings[] = {
     {"totalPriceFieldWidth"_L1, ValueKind::Count, "characters of the line total column"_L1,
      &DocumentSettings::totalPriceFieldWidth},
     {"paperWidth"_L1, ValueKind::Width, "characters of a line"_L1, &DocumentSettings::paperWidth},
-    {"paperRows"_L1, ValueKind::Count, "rows of a page; no effect"_L1, &DocumentSettings::paperRows},
+    {"paperRows"_L1, ValueKind::Count, "rows of a page; a receipt printer fills up the last one"_L1,
+     &DocumentSettings::paperRows},
     {"style"_L1, ValueKind::Text, "no effect: each document has its own layout"_L1},
     {"printGeometry"_L1, ValueKind::Flag, "print the top margin"_L1, &DocumentSettings::printGeometry},
     {"printHeader"_L1, ValueKind::Flag, "print the free header lines"_L1, &DocumentSettings::printHeader},
-    {"printLogo"_L1, ValueKind::Flag, "no effect: a logo in the job is always printed"_L1,
+    {"printLogo"_L1, ValueKind::Flag, "print the logo, on a receipt printer"_L1,
      &DocumentSettings::printLogo},
     {"printCompany"_L1, ValueKind::Flag, "print the company's lines"_L1, &DocumentSettings::printCompany},
     {"printDeliveryAddress"_L1, ValueKind::Flag, "print the delivery address, with printCustomer"_L1,
@@ -97,13 +98,14 @@ inline constexpr DocumentSetting documentSettings[] = {
     {"printCredit"_L1, ValueKind::Flag, "print the order's credit"_L1, &DocumentSettings::printCredit},
     {"printWaiter"_L1, ValueKind::Flag, "print the order's waiter"_L1, &DocumentSettings::printWaiter},
     {"printNote"_L1, ValueKind::Flag, "print the order's note"_L1, &DocumentSettings::printNote},
-    {"openCashDrawer"_L1, ValueKind::Flag, "no effect: the drawer is never opened"_L1,
+    {"openCashDrawer"_L1, ValueKind::Flag,
+     "open the drawer of a receipt printer, once before the first receipt"_L1,
      &DocumentSettings::openCashDrawer},
     {"topMargin"_L1, ValueKind::Count, "empty lines on top, with printGeometry"_L1,
      &DocumentSettings::topMargin},
     {"descriptionWidth"_L1, ValueKind::Width, "characters of an item's name that go to the register"_L1,
      &DocumentSettings::descriptionWidth},
-    {copyNumberSetting, ValueKind::Text, "number of copies; one copy is printed all the same"_L1},
+    {copyNumberSetting, ValueKind::Text, "number of copies that a receipt printer prints, 99 at most"_L1},
 };
 
 } // namespace vocabulary

@@ -15,7 +15,6 @@ public:
     using EscPosPrinterDriver::EscPosPrinterDriver;
 
     using PrinterDriver::currentMethod;
-    using PrinterDriver::documentSettings;
 
     /// One element of a job, as the reader delivers it.
     bool element(const QString &name, const QList<std::pair<QString, QString>> &attributes = {})

@@ -16,6 +16,7 @@ class PaperRecord : public paper::Painter
 {
 public:
     QStringList lines;
+    QStringList rows; ///< texts alone
     int strips = 0;
     int openStrips = 0;
 
@@ -27,18 +28,22 @@ public:
     void row(const paper::Row &row) override
     {
         QString text = QStringLiteral("|");
+        QString plain;
         paper::Style style;
         for (const paper::Cell &cell : row.cells) {
             if (!(cell.style == style))
                 text += nameOf(cell.style);
             style = cell.style;
             text += QString::fromUcs4(&cell.character, 1);
+            plain += QString::fromUcs4(&cell.character, 1);
         }
+        rows += plain;
         lines += text + u'|';
     }
     void picture(const paper::Picture &picture) override
     {
-        lines += QStringLiteral("picture %1 x %2 at %3").arg(picture.width).arg(picture.height).arg(picture.left);
+        lines +=
+            QStringLiteral("picture %1 x %2 at %3").arg(picture.width).arg(picture.height).arg(picture.left);
         lastPicture = picture;
     }
     void event(paper::Event event) override

@@ -36,7 +36,8 @@ private Q_SLOTS:
         };
         add("nothing", "", {});
         add("rows", "'one' 0A 0A 'two' 0D0A", {u"|one|"_s, u"||"_s, u"|two|"_s});
-        add("styles", "1B4501 'b' 1D2101 'h' 1D2110 'w' 1D2111 'x' 1D2100 1B4500 1B2D01 'u' 1B2D00 1D4201 'i' 0A",
+        add("styles",
+            "1B4501 'b' 1D2101 'h' 1D2110 'w' 1D2111 'x' 1D2100 1B4500 1B2D01 'u' 1B2D00 1D4201 'i' 0A",
             {u"|<b>b<bh>h<bw>w<bhw>x<u>u<i>i|"_s});
         add("digits for numbers", "1B4531 'b' 1B4530 1B2D31 'u' 1B2D30 'n' 0A", {u"|<b>b<u>u<>n|"_s});
         add("the old print mode", "1B21B9 'a' 1B2100 'b' 0A", {u"|<bhwu>a<>b|"_s});
@@ -51,25 +52,27 @@ private Q_SLOTS:
             {u"|01234567890123456789012345678901|"_s, u"|23|"_s});
         add("narrow letters", "1B4D01 '012345678901234567890123456789012345678901x' 0A",
             {u"|012345678901234567890123456789012345678901|"_s, u"|x|"_s});
-        add("tab stops and places", "'a' 09 'b' 0A 1B240C00 'c' 1B5C0C00 'd' 0A", {u"|a       b|"_s, u"| c d|"_s});
-        add("feeds", "'a' 1B6402 'b' 1B6400 1B4A30 1B6401", {u"|a|"_s, u"||"_s, u"|b|"_s, u"||"_s, u"||"_s, u"||"_s});
-        add("every cut",
-            "1D5600 1D5601 1D5630 1D5631 1D564100 1D564210 1B69 1B6D",
+        add("tab stops and places", "'a' 09 'b' 0A 1B240C00 'c' 1B5C0C00 'd' 0A",
+            {u"|a       b|"_s, u"| c d|"_s});
+        add("feeds", "'a' 1B6402 'b' 1B6400 1B4A30 1B6401",
+            {u"|a|"_s, u"||"_s, u"|b|"_s, u"||"_s, u"||"_s, u"||"_s});
+        add("every cut", "1D5600 1D5601 1D5630 1D5631 1D564100 1D564210 1B69 1B6D",
             QStringList(u"-- cut"_s).toList() + QList<QString>(7, u"-- cut"_s));
         add("a cut ends the row", "'a' 1D5600", {u"|a|"_s, u"-- cut"_s});
         add("drawer", "1B700019FA 1014010001", {u"-- drawer"_s, u"-- drawer"_s});
         add("an unknown command", "'ab' 0A 1D7A 'c' 0A",
             {u"|ab|"_s, u"! unknown command 1D 7A at byte 3, skipped"_s, u"|c|"_s});
-        add("control characters", "01 7F 1F", {u"! unknown command 01 at byte 0, skipped"_s,
-                                             u"! unknown command 7F at byte 1, skipped"_s,
-                                             u"! unknown command 1F at byte 2, skipped"_s});
+        add("control characters", "01 7F 1F",
+            {u"! unknown command 01 at byte 0, skipped"_s, u"! unknown command 7F at byte 1, skipped"_s,
+             u"! unknown command 1F at byte 2, skipped"_s});
         add("commands of their own", "1B2841 0200 0102 1D2841 0200 0102 'a' 0A",
             {u"! 1B 28 41 02 00 at byte 0 is not shown"_s, u"|a|"_s});
         add("an unfinished row", "'a'", {u"! the last row is not ended, so the printer keeps it"_s});
         add("a row dropped", "'a' 1B40 'b' 0A",
             {u"! a row was begun and not ended: the printer drops it"_s, u"|b|"_s});
         add("initialised", "1B7413 1B4D01 1B4501 1D2111 1B6101 1B40 D5 0A", {u"|╒|"_s});
-        add("a torn command", "'a' 0A 1B45", {u"|a|"_s, u"! the stream ends in the middle of command 1B 45 at byte 2"_s});
+        add("a torn command", "'a' 0A 1B45",
+            {u"|a|"_s, u"! the stream ends in the middle of command 1B 45 at byte 2"_s});
         add("a torn picture", "1D763000 0100 0200 FF",
             {u"! the stream ends in the middle of command 1D 76 30 00 01 00 02 00 at byte 0"_s,
              u"picture 8 x 1 at 0"_s});
@@ -82,13 +85,16 @@ private Q_SLOTS:
         add("pictures that join", "1D763000 0100 0100 FF 1D763000 0100 0100 FF 1D763000 0200 0100 FFFF",
             {u"picture 8 x 2 at 0"_s, u"picture 16 x 1 at 0"_s});
         add("a picture without dots", "1D763000 0000 FFFF 'a' 0A", {u"|a|"_s});
-        add("a picture by columns", "1B2A21 0200 800000 000001 0A 'a' 0A", {u"picture 2 x 24 at 0"_s, u"|a|"_s});
+        add("a picture by columns", "1B2A21 0200 800000 000001 0A 'a' 0A",
+            {u"picture 2 x 24 at 0"_s, u"|a|"_s});
         add("by columns of eight dots", "1B2A00 0100 80 0A", {u"picture 2 x 24 at 0"_s});
-        add("graphics", "1D284C 0C00 3070 30 01 01 31 0800 0200 FF81 1D284C 0200 3032", {u"picture 8 x 2 at 0"_s});
+        add("graphics", "1D284C 0C00 3070 30 01 01 31 0800 0200 FF81 1D284C 0200 3032",
+            {u"picture 8 x 2 at 0"_s});
         add("graphics that lie", "1D284C 0B00 3070 30 01 01 31 0800 FFFF FF 1D284C 0200 3032", {});
         add("the printer's own logo", "1C700100", {u"! picture 1 of the printer's memory"_s});
         add("bar codes", "1D6B02 '4006381333931' 00 1D6B49 03 '{BA'",
-            {u"! bar code EAN-13 of \"4006381333931\", not drawn"_s, u"! bar code Code 128 of \"{BA\", not drawn"_s});
+            {u"! bar code EAN-13 of \"4006381333931\", not drawn"_s,
+             u"! bar code Code 128 of \"{BA\", not drawn"_s});
         add("another code", "1D286B 0300 30 52 30", {u"! 1D 28 6B 03 00 at byte 0 is not shown"_s});
         add("a QR code",
             "1D286B 0400 3141 3200 1D286B 0300 3143 02 1D286B 0300 3145 30 1D286B 0500 3150 30 'Hi' "
@@ -105,7 +111,8 @@ private Q_SLOTS:
 
     void piecesOfAnySizeShowTheSame()
     {
-        const QByteArray bytes = escpos("1B40 1B6101 'a' 0A 1D763000 0200 0300 010203040506 1D6B02 '12' 00 1D7A 'b' 0A");
+        const QByteArray bytes =
+            escpos("1B40 1B6101 'a' 0A 1D763000 0200 0300 010203040506 1D6B02 '12' 00 1D7A 'b' 0A");
         PaperRecord record;
         Decoder decoder(record, usualProfile, Decoder::Width::Any);
         for (const char byte : bytes)

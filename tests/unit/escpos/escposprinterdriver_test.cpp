@@ -16,8 +16,8 @@ const Profile &profileNamed(const char *name)
 /// What a document consists of on the printer for 80 mm, without its beginning and its end.
 QByteArray rowsOf(const std::function<void(TestEscPosPrinter &)> &document, const char *profile = "80mm")
 {
-    const QByteArray begin = escpos(qstrcmp(profile, "generic") == 0 ? "1B40 1C2E 1B7400 1B5200"
-                                                                     : "1B40 1C2E 1B7413 1B5200");
+    const QByteArray begin =
+        escpos(qstrcmp(profile, "generic") == 0 ? "1B40 1C2E 1B7400 1B5200" : "1B40 1C2E 1B7413 1B5200");
     const QByteArray bytes = printedOn(profileNamed(profile), [&](TestEscPosPrinter &printer) {
         printer.loadValues(u"receipt"_s);
         printer.startSection();
@@ -80,11 +80,15 @@ private Q_SLOTS:
 
     void aJobBeginsWithRoomForATornPicture()
     {
-        const QByteArray bytes = printedOn(profileNamed("58mm"), [](TestEscPosPrinter &printer) {
+        const auto job = [](TestEscPosPrinter &printer) {
             printer.startDocument();
             printer.endDocument();
-        });
-        QCOMPARE(bytes, escpos("1B40 1C2E 1B7413 1B5200") + QByteArray(48, '\0'));
+        };
+        QCOMPARE(printedOn(profileNamed("58mm"), job), escpos("1B40 1C2E 1B7413 1B5200"));
+        home.configure("palvestrin: { escpos: { logo = logo.pbm; }; };");
+        QCOMPARE(printedOn(profileNamed("58mm"), job),
+                 QByteArray(55, '\0') + escpos("1B40 1C2E 1B7413 1B5200"));
+        QCOMPARE(printedOn(profileNamed("generic"), job), escpos("1B40 1C2E 1B7400 1B5200"));
     }
 
     void sizesAndBoldAreSentOnceAndBeforeTheLetters()
@@ -363,12 +367,12 @@ private Q_SLOTS:
 
     void aLogoThatCannotBeRead()
     {
-        home.configure("palvestrin: { escpos: { logo = /no/logo.pbm; }; receiptdoc: { printLogo = true; }; };");
+        home.configure(
+            "palvestrin: { escpos: { logo = /no/logo.pbm; }; receiptdoc: { printLogo = true; }; };");
         QCOMPARE(rowsOf([](TestEscPosPrinter &printer) {
                      printer.printLogo();
-                     QCOMPARE(printer.troubles(),
-                              QStringList(u"the logo \"/no/logo.pbm\" cannot be read: "
-                                          "No such file or directory"_s));
+                     QCOMPARE(printer.troubles(), QStringList(u"the logo \"/no/logo.pbm\" cannot be read: "
+                                                              "No such file or directory"_s));
                  }),
                  QByteArray());
     }
@@ -400,7 +404,8 @@ private Q_SLOTS:
             printer.println(u"B"_s);
         });
         const QByteArray begin = escpos("1B40 1C2E 1B7413 1B5200");
-        QCOMPARE(bytes, begin + escpos("1D2111 1B4501 '           A' 0A 1D564200") + begin + escpos("'B' 0A"));
+        QCOMPARE(bytes,
+                 begin + escpos("1D2111 1B4501 '           A' 0A 1D564200") + begin + escpos("'B' 0A"));
     }
 
     void anOutputThatCannotBeOpenedIsHarmless()

@@ -26,8 +26,8 @@ class HexListingTest : public QObject
 private Q_SLOTS:
     void aLineForEachCommand()
     {
-        const QByteArray bytes =
-            escpos("1B40 1C2E 1B7413 1B5200 1B4501 1D2111 'Two ' D5 ', and a long text' 0A 1D564200 1D7A 1B45");
+        const QByteArray bytes = escpos(
+            "1B40 1C2E 1B7413 1B5200 1B4501 1D2111 'Two ' D5 ', and a long text' 0A 1D564200 1D7A 1B45");
         const QStringList expected = {
             u"00000000  1B 40                                            initialise"_s,
             u"00000002  1C 2E                                            leave Chinese mode"_s,
@@ -55,7 +55,8 @@ private Q_SLOTS:
             u"0000000D  31 32 00                                         data"_s,
             u"00000010  61                                               \"a\""_s,
         };
-        QCOMPARE(listed(escpos("1D763000 0200 0100 FF01 1D6B02 '12' 00 'a'")).join(u'\n'), expected.join(u'\n'));
+        QCOMPARE(listed(escpos("1D763000 0200 0100 FF01 1D6B02 '12' 00 'a'")).join(u'\n'),
+                 expected.join(u'\n'));
     }
 
     void everyByteIsListedOnce()

@@ -1,6 +1,5 @@
-#include "letters.h"
-
 #include "codepages.h"
+#include "letters.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -97,8 +96,7 @@ private Q_SLOTS:
         QTest::newRow("wide with narrow form") << u"Ａb"_s << u"A b"_s << u"A b"_s;
         QTest::newRow("beyond the basic plane") << u"x😀y"_s << u"x??y"_s << u"x??y"_s;
         QTest::newRow("half a pair") << u"x"_s + QChar(0xD83D) + u"y"_s << u"x?y"_s << u"x?y"_s;
-        QTest::newRow("blanks of other widths") << u"a\u2003b\u00A0c"_s << u"a b\u00A0c"_s
-                                                << u"a b\u00A0c"_s;
+        QTest::newRow("blanks of other widths") << u"a\u2003b\u00A0c"_s << u"a b\u00A0c"_s << u"a b\u00A0c"_s;
         QTest::newRow("invisible") << u"a\u200Bb\u2028c\uFEFF\u00ADd"_s << u"abcd"_s << u"abcd"_s;
     }
     void whatIsPrinted()

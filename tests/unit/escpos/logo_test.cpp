@@ -35,8 +35,7 @@ private Q_SLOTS:
         QCOMPARE(logo.picture.width, 10);
         QCOMPARE(logo.picture.height, 2);
         QCOMPARE(logo.picture.dots, escpos("A540 0180"));
-        QCOMPARE(rasterCommands(logo.picture),
-                 escpos("1D7630 00 0200 0100 A540 1D7630 00 0200 0100 0180"));
+        QCOMPARE(rasterCommands(logo.picture), escpos("1D7630 00 0200 0100 A540 1D7630 00 0200 0100 0180"));
     }
 
     void whatIsNoLogo_data()

@@ -249,7 +249,7 @@ private Q_SLOTS:
                  "    characters of a line; when missing: 32, the printer's own width; the same for 0\n"
                  "    consulted by: printFullOrderReceipt, printAbstractOrderReceipt\n"
                  "palvestrin.receiptdoc.paperRows is not set, counts as 0\n"
-                 "    rows of a page; no effect; when missing: 0\n"
+                 "    rows of a page; a receipt printer fills up the last one; when missing: 0\n"
                  "    consulted by no print method\n"
                  "palvestrin.receiptdoc.papreRows = 3\n"
                  "    no program reads this; did you mean palvestrin.receiptdoc.paperRows?\n");

@@ -87,7 +87,8 @@ private Q_SLOTS:
             u"\n| `printTelephone` | print the customer's telephone, with printCustomer | off | "
             "`printPartialOrder`, `printFullOrder`, `printFullOrderReceipt`, "
             "`printFullOrderInvoice`, `printFullOrderDelivery`, `printAbstractOrderInvoice` |\n"_s));
-        QVERIFY(tables.contains(u"\n| `paperRows` | rows of a page; no effect | 0 | no print method |\n"_s));
+        QVERIFY(tables.contains(
+            u"\n| `paperRows` | rows of a page; a receipt printer fills up the last one | 0 | no print method |\n"_s));
     }
 
     void settingsAsTheManualTellsThem()
