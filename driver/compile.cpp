@@ -1,22 +1,19 @@
 #include "compile.h"
 
-#include "applicationkeys.h"
+#include "catalogue.h"
+#include "companyprinterdriver.h"
 #include "jobreader.h"
 #include "pvconfiguration.h"
-#include "runlocale.h"
 #include "toolkitoptions.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QTranslator>
-#include <QXmlSimpleReader>
 
 #include <csignal>
 #include <fcntl.h>
 #include <iostream>
 #include <unistd.h>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -43,17 +40,6 @@ void ignoreWriteSignals()
 {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
-}
-
-/// A missing catalogue is no fault: the labels then print as they are written in the code.
-void loadCatalogue(QTranslator &translator, const PVConfiguration &configuration)
-{
-    const QString basedir = configuration.getStrValue(applicationkey::languageBaseDir);
-    const QString file = configuration.getStrValue(applicationkey::languageFile);
-    if (file == "/"_L1) // the marker for a catalogue named after the locale
-        (void)translator.load(basedir + "/palvestrin_"_L1 + runlocale::name(), u"."_s);
-    else
-        (void)translator.load(basedir + file);
 }
 
 /// Opened by the C library, because a file name is bytes and the toolkit takes it for UTF-8. A file that
@@ -87,11 +73,8 @@ void compile(int argc, char **argv)
     // opened, and is treated so.
     QFile input;
     JobSource source(&input);
-    JobPrinter printer(NativeFileName{argv[2]}, source);
+    CompanyPrinterDriver printer{NativeFileName{argv[2]}};
+    JobHandler handler(printer, source);
     openInput(input, argv[1]);
-    QXmlSimpleReader reader;
-    reader.setContentHandler(&printer);
-    reader.setDeclHandler(&printer);
-    reader.setLexicalHandler(&printer);
-    reader.parse(source);
+    printJob(source, handler);
 }

@@ -111,9 +111,10 @@ private:
     QByteArray gathered;                ///< of its data, as much as is needed
     void (Decoder::*whole)() = nullptr; ///< what to do with it when it is there
     int rasterMode = 0;
-    int rasterBytes = 0;     ///< of a row of the raster picture that is being read; 0: none is
-    paper::Picture graphics; ///< that wait to be printed
-    QByteArray codeText;     ///< of the QR code that waits to be printed
-    int codeModule = 3;      ///< dots of its smallest square
-    int codeLevel = 0;       ///< of its error correction, from 0 to 3
+    int rasterBytes = 0;        ///< of a row of the raster picture that is being read; 0: none is
+    paper::Picture graphics;    ///< that wait to be printed
+    QByteArray codeText;        ///< of the QR code that waits to be printed
+    paper::Picture codePicture; ///< made of it, once it has been printed
+    int codeModule = 3;         ///< dots of its smallest square
+    int codeLevel = 0;          ///< of its error correction, from 0 to 3
 };

@@ -10,7 +10,8 @@ using paper::Picture;
 
 namespace {
 
-constexpr int maxPictureDots = 4096; ///< across; no paper is wider, and what is beyond it is not seen
+constexpr int maxPictureDots = 4096;    ///< across; no paper is wider, and what is beyond it is not seen
+constexpr int maxGraphicsHeight = 2400; ///< printers keep no more, and one command prints it again and again
 constexpr int bandHeight = Picture::dotsPerRow;
 constexpr int graphicsHead = 10; ///< bytes in front of the dots
 
@@ -90,8 +91,9 @@ void Decoder::addGraphics()
     if (function == 112) {
         graphics = {.left = 0, .width = wideAt(gathered, 6), .height = wideAt(gathered, 8), .dots = {}};
         graphics.dots = gathered.mid(graphicsHead);
-        if (graphics.dots.size() < qsizetype(graphics.bytesPerRow()) * graphics.height)
-            graphics = Picture(); // it promised more dots than it has
+        const bool isThere = graphics.dots.size() >= qsizetype(graphics.bytesPerRow()) * graphics.height;
+        if (!isThere || graphics.height > maxGraphicsHeight)
+            graphics = Picture();
     } else if (function == 2 || function == 50) {
         addDots(graphics, 1, 1);
     }
@@ -109,6 +111,8 @@ void Decoder::addCode()
         tellUnseen(current);
         return;
     }
+    if (byteAt(gathered, 1) != 81)
+        codePicture = Picture();
     switch (byteAt(gathered, 1)) {
     case 67:
         codeModule = std::clamp(byteAt(gathered, 2), 1, 16);
@@ -129,12 +133,18 @@ void Decoder::addCode()
 
 void Decoder::printCode()
 {
-    const Picture code = qrCode(codeText, codeLevel, codeModule);
+    if (codePicture.height == 0)
+        codePicture = qrCode(codeText, codeLevel, codeModule);
     finishPicture();
-    addDots(code, 1, 1);
-    finishPicture();
-    remark(code.height > 0 ? u"QR code of %1"_s.arg(quoted(codeText))
-                           : u"a QR code without a text that fits"_s);
+    if (codePicture.height == 0) {
+        remark(u"a QR code without a text that fits"_s);
+    } else if (codePicture.width > profile.dots) {
+        remark(u"a QR code wider than the paper, which the printer leaves out"_s);
+    } else {
+        addDots(codePicture, 1, 1);
+        finishPicture();
+        remark(u"QR code of %1"_s.arg(quoted(codeText)));
+    }
 }
 
 void Decoder::startBarCode(const Command &)
@@ -164,6 +174,11 @@ void Decoder::addDots(const Picture &dots, int across, int down)
 {
     const int dotsAcross = std::min(dots.width * across, maxPictureDots);
     for (int y = 0; y < dots.height * down; ++y) {
+        if (dotsAcross == dots.width) {
+            const int bytes = dots.bytesPerRow();
+            addPictureLine(dots.dots.mid(qsizetype(y / down) * bytes, bytes), dotsAcross);
+            continue;
+        }
         QByteArray line((dotsAcross + 7) / 8, '\0');
         for (int x = 0; x < dotsAcross; ++x) {
             if (dots.isBlack(x / across, y / down))

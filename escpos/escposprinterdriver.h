@@ -22,7 +22,7 @@
 /// document; `openCashDrawer` opens the drawer once before the first receipt; `printLogo` lets the `logo`
 /// element print.
 ///
-/// Register documents are refused: the job ends there, and `refusal` says why.
+/// Register documents are refused: the job ends there, and `errorString` says why.
 class EscPosPrinterDriver : public PrinterDriver
 {
 public:
@@ -37,7 +37,7 @@ public:
     /// The characters that stood in the job and not on the paper.
     const LostCharacters &lostCharacters() const { return lost; }
     /// Why the job was refused, a sentence; "" when it was not.
-    QString refusal() const { return refused; }
+    QString errorString() const override { return refused; }
     /// What else was not printed and why, a sentence each: a logo that cannot be read, copies that could not
     /// be kept.
     QStringList troubles() const;

@@ -25,9 +25,16 @@ PrinterDriver::PrinterDriver(const NativeFileName &fileName, bool append)
 
 PrinterDriver::~PrinterDriver()
 {
-    if (output && !output->close())
+    const QString error = close();
+    if (!error.isEmpty())
         std::cerr << "palvestrin-print: " << outputName.constData()
-                  << ": not written completely: " << qUtf8Printable(output->errorString()) << std::endl;
+                  << ": not written completely: " << qUtf8Printable(error) << std::endl;
+}
+
+QString PrinterDriver::close()
+{
+    const std::unique_ptr<LocaleOutput> closing = std::move(output);
+    return !closing || closing->close() ? QString() : closing->errorString();
 }
 
 bool PrinterDriver::startDocument()

@@ -49,8 +49,14 @@ public:
     PrinterDriver(const NativeFileName &fileName, bool append);
     PrinterDriver(const PrinterDriver &) = delete;
     PrinterDriver &operator=(const PrinterDriver &) = delete;
-    /// Closes the output file. When not all of it could be written, says so in one line on standard error.
+    /// Closes the output file, unless `close` has. When not all of it could be written, says so in one line
+    /// on standard error.
     ~PrinterDriver() override;
+
+    /// Whether there is an output file.
+    bool isOpen() const { return output != nullptr; }
+    /// Closes it; nothing may be printed any more. Returns "", or why not all of it could be written.
+    QString close();
 
     // The job's reader.
     bool startDocument() override;

@@ -4,6 +4,7 @@
 #include "console.h"
 #include "dispatch.h"
 #include "preview.h"
+#include "render.h"
 
 #include <iostream>
 
@@ -11,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr const Command *commands[] = {&configCommand, &previewCommand};
+constexpr const Command *commands[] = {&configCommand, &previewCommand, &renderCommand};
 
 constexpr Command palvestrin{.name = "palvestrin"_L1, .commands = commands};
 

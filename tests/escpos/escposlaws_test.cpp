@@ -168,8 +168,8 @@ private:
                 expected = withoutBlanksInFront(expected);
                 actual = withoutBlanksInFront(actual);
             }
-            QVERIFY2(actual == expected, what + ", row " + QByteArray::number(i) + ":\n" + actual.toUtf8() + "\n" +
-                                             expected.toUtf8());
+            QVERIFY2(actual == expected, what + ", row " + QByteArray::number(i) + ":\n" + actual.toUtf8() +
+                                             "\n" + expected.toUtf8());
         }
     }
 
@@ -186,7 +186,8 @@ private Q_SLOTS:
     void goldenJobsComeBack()
     {
         int jobs = 0;
-        for (const QString &area : QDir(QStringLiteral(GOLDEN_FOLDER)).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        for (const QString &area :
+             QDir(QStringLiteral(GOLDEN_FOLDER)).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
             const QDir folder(QStringLiteral(GOLDEN_FOLDER "/") + area);
             for (const QString &name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
                 const QString own = folder.filePath(name + u"/palvestrin.conf"_s);
@@ -218,8 +219,10 @@ private Q_SLOTS:
 
     void copiesComeBack()
     {
-        const QByteArray receipt = contentOf(QStringLiteral(EXAMPLES_FOLDER "/jobs/printFullOrderReceipt.xml"));
-        home.configure("palvestrin: { receiptdoc: { copyNumber = 3; openCashDrawer = true; printLogo = true; }; };");
+        const QByteArray receipt =
+            contentOf(QStringLiteral(EXAMPLES_FOLDER "/jobs/printFullOrderReceipt.xml"));
+        home.configure(
+            "palvestrin: { receiptdoc: { copyNumber = 3; openCashDrawer = true; printLogo = true; }; };");
         verifyRoundTrip(receipt, "copies of a receipt");
         const QByteArray sold = contentOf(QStringLiteral(EXAMPLES_FOLDER "/jobs/printSold.xml"));
         home.configure("palvestrin: { prefiscaldoc: { copyNumber = 2; }; solddoc: { copyNumber = 5; }; };");
@@ -279,7 +282,8 @@ private Q_SLOTS:
             "<job><method name=\"printPartialOrder\"/><otherreceipe number=\"1\" name=\"\xC5\x82\"/>"
             "<method name=\"printFullOrderReceipt\"/><logo/><company name=\"\xE2\x82\xAC\"/>"
             "<receipe number=\"1\" name=\"a\" price=\"1\" totalPrice=\"1\"/></job>";
-        const QByteArray whole = "<job><method name=\"printFullOrder\"/><receipe number=\"2\" name=\"\xC3\xA8\"/></job>";
+        const QByteArray whole =
+            "<job><method name=\"printFullOrder\"/><receipe number=\"2\" name=\"\xC3\xA8\"/></job>";
         for (const QByteArray &configuration : {settings, logo + settings}) {
             home.configure("palvestrin: { " + configuration + " };");
             for (const Profile &profile : profiles) {

@@ -8,8 +8,8 @@
 #include "pvconfiguration.h"
 
 /// A printer that prints nothing and writes down what it is asked for: rows in their styles, and what happens
-/// between them. What a receipt printer does of its own accord at the ends of documents is written down in the
-/// simplest way.
+/// between them. What a receipt printer does of its own accord at the ends of documents is written down in
+/// the simplest way.
 class WitnessPrinter : public PrinterDriver
 {
 public:
@@ -68,9 +68,10 @@ public:
         rows = 0;
         firstLine = paper.lines.size();
         const QString kind = QString(vocabulary::findPrintMethod(currentMethod)->kind);
-        copies = qMax(1, configuration->getStrValue((kind == u"sold" ? documentPath(QStringLiteral("prefiscal"))
-                                                                     : documentPath(kind)) +
-                                                    QStringLiteral("copyNumber"))
+        copies = qMax(1, configuration
+                             ->getStrValue((kind == u"sold" ? documentPath(QStringLiteral("prefiscal"))
+                                                            : documentPath(kind)) +
+                                           QStringLiteral("copyNumber"))
                              .toInt());
     }
     void endSection() override

@@ -4,6 +4,7 @@
 // that prints everything.
 
 #include "columns.h"
+#include "companyprinterdriver.h"
 #include "jobreader.h"
 #include "printmethods.h"
 #include "pvconfiguration.h"
@@ -12,7 +13,6 @@
 
 #include <QBuffer>
 #include <QStringDecoder>
-#include <QXmlSimpleReader>
 
 #include <algorithm>
 
@@ -56,11 +56,10 @@ bool wantsMilesOfPaper(const PVConfiguration &configuration)
 }
 
 /// The printer with a configuration of its own, which also notes what decides the form of its output.
-class FuzzPrinter : public JobPrinter
+class FuzzPrinter : public CompanyPrinterDriver
 {
 public:
-    FuzzPrinter(const NativeFileName &fileName, JobSource &job, PVConfiguration &own)
-        : JobPrinter(fileName, job)
+    FuzzPrinter(const NativeFileName &fileName, PVConfiguration &own) : CompanyPrinterDriver(fileName)
     {
         configuration = &own;
     }
@@ -70,7 +69,7 @@ public:
     {
         for (int i = 0; i < attributes.count(); ++i)
             hasOddText |= attributes.value(i).contains(u'"') || attributes.value(i).contains(u'\n');
-        const bool goesOn = JobPrinter::startElement(uri, localName, qName, attributes);
+        const bool goesOn = CompanyPrinterDriver::startElement(uri, localName, qName, attributes);
         hasFiscal |= currentMethod.endsWith("Fiscal"_L1);
         return goesOn;
     }
@@ -151,12 +150,9 @@ QByteArray render(QIODevice &job, PVConfiguration &configuration)
     bool documented = false;
     {
         JobSource source(&job);
-        FuzzPrinter printer(NativeFileName{file.path().toUtf8()}, source, configuration);
-        QXmlSimpleReader reader;
-        reader.setContentHandler(&printer);
-        reader.setDeclHandler(&printer);
-        reader.setLexicalHandler(&printer);
-        reader.parse(source);
+        FuzzPrinter printer(NativeFileName{file.path().toUtf8()}, configuration);
+        JobHandler handler(printer, source);
+        printJob(source, handler);
         documented = printer.printsDocumentedPieces();
     }
     const QByteArray output = file.content();

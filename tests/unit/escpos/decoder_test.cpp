@@ -100,6 +100,10 @@ private Q_SLOTS:
             "1D286B 0400 3141 3200 1D286B 0300 3143 02 1D286B 0300 3145 30 1D286B 0500 3150 30 'Hi' "
             "1D286B 0300 3151 30",
             {u"picture 42 x 24 at 0"_s, u"picture 42 x 18 at 0"_s, u"! QR code of \"Hi\""_s});
+        const QByteArray wide = escpos("1D286B 0300 314310 1D286B 3F00 315030") + QByteArray(60, 'x') +
+                                escpos("1D286B 0300 315130");
+        QTest::newRow("a QR code wider than the paper")
+            << wide << QStringList(u"! a QR code wider than the paper, which the printer leaves out"_s);
         add("a QR code of nothing", "1D286B 0300 3151 30", {u"! a QR code without a text that fits"_s});
     }
     void shows()

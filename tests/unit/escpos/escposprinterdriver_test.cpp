@@ -383,9 +383,10 @@ private Q_SLOTS:
             const QByteArray bytes = printedOn(profileNamed("80mm"), [&](TestEscPosPrinter &printer) {
                 QVERIFY(printer.element(u"method"_s, {{u"name"_s, u"printFullOrder"_s}}));
                 QVERIFY(!printer.element(u"method"_s, {{u"name"_s, method}}));
-                QCOMPARE(printer.refusal(), u"\""_s + method +
-                                                u"\" is for a cash register, which speaks a language of its "
-                                                "own: this printer prints everything else"_s);
+                QCOMPARE(printer.errorString(),
+                         u"\""_s + method +
+                             u"\" is for a cash register, which speaks a language of its "
+                             "own: this printer prints everything else"_s);
             });
             QCOMPARE(bytes, escpos("1B40 1C2E 1B7413 1B5200"));
         }

@@ -1,5 +1,10 @@
 #include "jobreader.h"
 
+#include "printerdriver.h"
+#include "printmethods.h"
+
+#include <QXmlSimpleReader>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -72,46 +77,92 @@ void JobSource::leaveProlog()
     isWatched = entities > 0;
 }
 
-bool JobPrinter::startElement(const QString &namespaceUri, const QString &localName, const QString &qName,
+bool JobHandler::startDocument()
+{
+    return printer.startDocument();
+}
+
+bool JobHandler::endDocument()
+{
+    return printer.endDocument();
+}
+
+bool JobHandler::startElement(const QString &namespaceUri, const QString &localName, const QString &qName,
                               const QXmlAttributes &attributes)
 {
     source.leaveProlog();
-    if (++openElements > maxNesting)
+    if (++openElements > maxNesting) {
+        limit = u"elements are nested deeper than %1"_s.arg(maxNesting);
         return false;
-    return CompanyPrinterDriver::startElement(namespaceUri, localName, qName, attributes);
+    }
+    if (printer.startElement(namespaceUri, localName, qName, attributes))
+        return true;
+    const QString method = attributes.value("name"_L1);
+    if (!vocabulary::findPrintMethod(method))
+        limit = u"there is no print method \"%1\""_s.arg(method);
+    return false;
 }
 
-bool JobPrinter::endElement(const QString &namespaceUri, const QString &localName, const QString &qName)
+bool JobHandler::endElement(const QString &namespaceUri, const QString &localName, const QString &qName)
 {
     --openElements;
-    return prefixes.endElement() && CompanyPrinterDriver::endElement(namespaceUri, localName, qName);
+    if (prefixes.endElement())
+        return printer.endElement(namespaceUri, localName, qName);
+    limit = u"more namespace prefixes than the reader can afford"_s;
+    return false;
 }
 
-bool JobPrinter::startPrefixMapping(const QString &prefix, const QString &)
+bool JobHandler::startPrefixMapping(const QString &prefix, const QString &)
 {
     prefixes.add(prefix);
     return true;
 }
 
-bool JobPrinter::endPrefixMapping(const QString &prefix)
+bool JobHandler::endPrefixMapping(const QString &prefix)
 {
     prefixes.remove(prefix);
     return true;
 }
 
-bool JobPrinter::startDTD(const QString &, const QString &, const QString &)
+bool JobHandler::startDTD(const QString &, const QString &, const QString &)
 {
     source.setInDocumentType(true);
     return true;
 }
 
-bool JobPrinter::endDTD()
+bool JobHandler::endDTD()
 {
     source.setInDocumentType(false);
     return true;
 }
 
-bool JobPrinter::internalEntityDecl(const QString &, const QString &value)
+bool JobHandler::internalEntityDecl(const QString &, const QString &value)
 {
-    return source.addEntity(value);
+    if (source.addEntity(value))
+        return true;
+    limit = u"more than %1 entities, or parentheses nested deeper than %2 in one"_s.arg(maxEntities).arg(maxNesting);
+    return false;
+}
+
+bool JobHandler::fatalError(const QXmlParseException &exception)
+{
+    errorLine = exception.lineNumber();
+    errorColumn = exception.columnNumber();
+    errorText = exception.message();
+    return false;
+}
+
+QString JobHandler::errorString() const
+{
+    return limit.isEmpty() ? printer.errorString() : limit;
+}
+
+void printJob(JobSource &source, JobHandler &handler)
+{
+    QXmlSimpleReader reader;
+    reader.setContentHandler(&handler);
+    reader.setDeclHandler(&handler);
+    reader.setLexicalHandler(&handler);
+    reader.setErrorHandler(&handler);
+    reader.parse(source);
 }

@@ -1,9 +1,12 @@
 #pragma once
 
-#include "companyprinterdriver.h"
 #include "prefixscope.h"
 
+#include <QString>
+#include <QXmlDefaultHandler>
 #include <QXmlInputSource>
+
+class PrinterDriver;
 
 // Guards against jobs that would overflow the stack, the memory or the patience of the XML reader. The job
 // ends where it exceeds one; what was printed before stays.
@@ -52,15 +55,15 @@ private:
     qint64 expanded = 0;         ///< characters that the references so far stand for, at most
 };
 
-/// The printer, fed by a reader that also reports declarations to it.
-class JobPrinter : public CompanyPrinterDriver
+/// Hands what the reader finds to a printer, and watches what that costs.
+class JobHandler : public QXmlDefaultHandler
 {
 public:
-    /// `job` must outlive the printer.
-    JobPrinter(const NativeFileName &fileName, JobSource &job) : CompanyPrinterDriver(fileName), source(job)
-    {
-    }
+    /// Both must outlive the handler.
+    JobHandler(PrinterDriver &target, JobSource &job) : printer(target), source(job) {}
 
+    bool startDocument() override;
+    bool endDocument() override;
     bool startElement(const QString &namespaceUri, const QString &localName, const QString &qName,
                       const QXmlAttributes &attributes) override;
     bool endElement(const QString &namespaceUri, const QString &localName, const QString &qName) override;
@@ -69,9 +72,25 @@ public:
     bool startDTD(const QString &name, const QString &publicId, const QString &systemId) override;
     bool endDTD() override;
     bool internalEntityDecl(const QString &name, const QString &value) override;
+    bool fatalError(const QXmlParseException &exception) override;
+    QString errorString() const override;
+
+    /// Where the job ended before its end, counted from 1; 0 when it did not.
+    int line() const { return errorLine; }
+    int column() const { return errorColumn; }
+    /// Why, in the words of the toolkit when the text is broken.
+    QString error() const { return errorText; }
 
 private:
+    PrinterDriver &printer;
     JobSource &source;
     int openElements = 0;
     PrefixScope prefixes;
+    QString limit; ///< that the job exceeds, or the method that nobody knows
+    int errorLine = 0;
+    int errorColumn = 0;
+    QString errorText;
 };
+
+/// Prints a job as far as it can be read. `handler` feeds its printer from `source`.
+void printJob(JobSource &source, JobHandler &handler);

@@ -1,0 +1,8 @@
+#pragma once
+
+class PVConfiguration;
+class QTranslator;
+
+/// Loads the catalogue that the configuration names. A missing one is no fault: the labels then print as they
+/// are written in the code.
+void loadCatalogue(QTranslator &translator, const PVConfiguration &configuration);
