@@ -1,3 +1,5 @@
+#include "render.h"
+
 #include "applicationkeys.h"
 #include "catalogue.h"
 #include "commanderror.h"
@@ -9,7 +11,6 @@
 #include "jobreader.h"
 #include "logger.h"
 #include "pvconfiguration.h"
-#include "render.h"
 #include "terminal.h"
 
 #include <QCoreApplication>
@@ -42,15 +43,22 @@ constexpr Argument profileArgument{.name = "PROFILE"_L1, .offers = offerProfiles
 constexpr Argument localeArgument{.name = "LOCALE"_L1};
 constexpr Operand operands[] = {{&jobArgument}};
 constexpr Option options[] = {
-    {.name = "output"_L1, .meaning = "Write to this file."_L1, .argument = &fileArgument, .isRequired = true,
+    {.name = "output"_L1,
+     .meaning = "Write to this file."_L1,
+     .argument = &fileArgument,
+     .isRequired = true,
      .letter = 'o'},
-    {.name = "device"_L1, .meaning = "For the line printer, or for a receipt printer."_L1,
+    {.name = "device"_L1,
+     .meaning = "For the line printer, or for a receipt printer."_L1,
      .argument = &deviceArgument},
-    {.name = "profile"_L1, .meaning = "What the receipt printer can do; usually 80mm."_L1,
+    {.name = "profile"_L1,
+     .meaning = "What the receipt printer can do; usually 80mm."_L1,
      .argument = &profileArgument},
-    {.name = "config"_L1, .meaning = "Use this configuration instead of the user's."_L1,
+    {.name = "config"_L1,
+     .meaning = "Use this configuration instead of the user's."_L1,
      .argument = &fileArgument},
-    {.name = "locale"_L1, .meaning = "Labels and encoding, such as it_IT.ISO-8859-15."_L1,
+    {.name = "locale"_L1,
+     .meaning = "Labels and encoding, such as it_IT.ISO-8859-15."_L1,
      .argument = &localeArgument},
 };
 
@@ -95,8 +103,9 @@ void chooseLocale(const QString &name)
         return;
     const locale_t locale = newlocale(LC_ALL_MASK, name.toLocal8Bit().constData(), nullptr);
     if (!locale)
-        throw CommandError(ExitCode::WrongUsage,
-                           u"the locale \"%1\" is not installed; \"locale -a\" lists those that are"_s.arg(name));
+        throw CommandError(
+            ExitCode::WrongUsage,
+            u"the locale \"%1\" is not installed; \"locale -a\" lists those that are"_s.arg(name));
     freelocale(locale);
     qputenv("LC_ALL", name.toLocal8Bit());
 }
@@ -116,8 +125,9 @@ void readConfiguration(const QString &path)
 void requireOtherFile(const QString &output, const QString &input)
 {
     if (!input.isEmpty() && QFileInfo(output).exists() && QFileInfo(output) == QFileInfo(input))
-        throw CommandError(ExitCode::WrongUsage,
-                           u"\"%1\" would be overwritten before it is read; name another output"_s.arg(input));
+        throw CommandError(
+            ExitCode::WrongUsage,
+            u"\"%1\" would be overwritten before it is read; name another output"_s.arg(input));
 }
 
 /// Prints the job, and throws where it ends too early.
@@ -148,7 +158,7 @@ QString lostSentence(const LostCharacters &lost, const Profile &profile)
     if (lost.others > 0)
         letters += u"and %1 others"_s.arg(lost.others);
     return u"printed as \"?\", for the profile %1 has no such letters: %2"_s.arg(profile.name,
-                                                                            letters.join(u", "_s));
+                                                                                 letters.join(u", "_s));
 }
 
 /// Tells it to whoever started the program, and to the log where one is configured.

@@ -78,6 +78,23 @@ private Q_SLOTS:
         QCOMPARE(actual.size(), expected.size());
         QCOMPARE(bytes, bytesOf(expected));
     }
+
+    void theDocumentShowsACase()
+    {
+        const QByteArray document = contentOf(QStringLiteral(DOCUMENT));
+        QVERIFY(
+            document.contains("```text\n" + contentOf(folder.filePath(u"receipt/expected.hex"_s)) + "```\n"));
+    }
+
+    void theDocumentNamesEveryProfile()
+    {
+        const QString document = QString::fromUtf8(contentOf(QStringLiteral(DOCUMENT)));
+        for (const Profile &profile : profiles) {
+            const QString narrow = profile.narrowColumns ? u", %1"_s.arg(profile.narrowColumns) : QString();
+            const QString row = u"\n| `%1` | %2%3 |"_s.arg(profile.name).arg(profile.columns).arg(narrow);
+            QVERIFY2(document.contains(row), qPrintable(row));
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(EscPosGoldenTest)

@@ -20,7 +20,8 @@ public:
         require(isOpen, "rows stand on a strip");
         require(row.cells.size() <= 200'000, "a row has an end");
         for (const paper::Cell &cell : row.cells)
-            require(QChar::category(cell.character) != QChar::Other_Control, "no cell is a control character");
+            require(QChar::category(cell.character) != QChar::Other_Control,
+                    "no cell is a control character");
         ++pieces;
     }
     void picture(const paper::Picture &picture) override
@@ -69,7 +70,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             "pieces of any size show the same");
 
     QByteArray listed;
-    HexListing listing([&](const QString &line) { listed += QByteArray::fromHex(line.mid(10, 48).toLatin1()); });
+    HexListing listing(
+        [&](const QString &line) { listed += QByteArray::fromHex(line.mid(10, 48).toLatin1()); });
     listing.take(bytes);
     listing.end();
     require(listed == bytes, "every byte is listed once");
