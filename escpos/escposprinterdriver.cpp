@@ -42,7 +42,7 @@ bool isRegisterMethod(const QString &name)
 
 } // namespace
 
-EscPosPrinterDriver::EscPosPrinterDriver(const QByteArray &fileName, const Profile &printerProfile)
+EscPosPrinterDriver::EscPosPrinterDriver(const NativeFileName &fileName, const Profile &printerProfile)
     : PrinterDriver(fileName, false), profile(printerProfile), letters(printerProfile)
 {
 }

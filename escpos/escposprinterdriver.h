@@ -30,7 +30,7 @@ public:
     static constexpr int maxPageRows = 1000; ///< a larger `paperRows` is no page, and fills up nothing
 
     /// Empties or makes the file at once. `profile` must outlive the printer.
-    EscPosPrinterDriver(const QByteArray &fileName, const Profile &profile);
+    EscPosPrinterDriver(const NativeFileName &fileName, const Profile &profile);
     /// A row that was begun and not ended is dropped.
     ~EscPosPrinterDriver() override;
 

@@ -5,22 +5,25 @@
 #include "commanderror.h"
 #include "commandline.h"
 #include "companyprinterdriver.h"
+#include "configfile.h"
+#include "console.h"
 #include "escposprinterdriver.h"
-#include "exitcode.h"
 #include "hlogmanager.h"
 #include "jobreader.h"
 #include "logger.h"
 #include "pvconfiguration.h"
-#include "terminal.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QTranslator>
 
+#include <cerrno>
 #include <csignal>
+#include <fcntl.h>
+#include <filesystem>
 #include <iostream>
 #include <locale.h>
+#include <optional>
 #include <sstream>
 
 using namespace Qt::Literals::StringLiterals;
@@ -84,6 +87,11 @@ QString profileNames()
     return names.join(u", "_s);
 }
 
+bool isForLinePrinter(const CommandLine &line)
+{
+    return !line.has(u"device") || line.value(u"device") == lineDevice;
+}
+
 const Profile &chosenProfile(const CommandLine &line)
 {
     const QString name = line.value(u"profile");
@@ -96,53 +104,98 @@ const Profile &chosenProfile(const CommandLine &line)
     return *profile;
 }
 
-/// Labels and encoding are those of the environment, as for `palvestrin-print`.
-void chooseLocale(const QString &name)
+void requireSensible(const CommandLine &line)
 {
-    if (name.isEmpty())
-        return;
-    const locale_t locale = newlocale(LC_ALL_MASK, name.toLocal8Bit().constData(), nullptr);
-    if (!locale)
-        throw CommandError(
-            ExitCode::WrongUsage,
-            u"the locale \"%1\" is not installed; \"locale -a\" lists those that are"_s.arg(name));
-    freelocale(locale);
-    qputenv("LC_ALL", name.toLocal8Bit());
+    if (isForLinePrinter(line) && line.has(u"profile"))
+        throw CommandError(ExitCode::WrongUsage, u"the line printer has no profiles; add --device escpos"_s);
+    chosenProfile(line);
 }
 
-void readConfiguration(const QString &path)
+/// The locale of the printer, which is the environment's unless another one is named. It is taken back when
+/// catalogue and encoding are chosen: messages are for the terminal.
+class PrinterLocale
+{
+public:
+    explicit PrinterLocale(const QByteArray &name) : saved(qgetenv("LC_ALL")), isChanged(!name.isEmpty())
+    {
+        if (isChanged)
+            qputenv("LC_ALL", name);
+    }
+    ~PrinterLocale()
+    {
+        if (isChanged)
+            saved.isEmpty() ? qunsetenv("LC_ALL") : qputenv("LC_ALL", saved);
+    }
+    PrinterLocale(const PrinterLocale &) = delete;
+    PrinterLocale &operator=(const PrinterLocale &) = delete;
+
+private:
+    const QByteArray saved;
+    const bool isChanged;
+};
+
+/// The renderer would take a locale that is not there for one in UTF-8, without a word.
+QByteArray chosenLocale(const CommandLine &line)
+{
+    const QByteArray name = line.value(u"locale").toUtf8();
+    if (name.isEmpty())
+        return name;
+    const locale_t locale = newlocale(LC_ALL_MASK, name.constData(), nullptr);
+    if (!locale)
+        throw CommandError(ExitCode::WrongUsage,
+                           u"the locale \"%1\" is not installed; \"locale -a\" lists those that are"_s.arg(
+                               line.value(u"locale")));
+    freelocale(locale);
+    return name;
+}
+
+void readConfiguration(const FileName &path)
 {
     PVConfiguration &configuration = *SyncSingleton<PVConfiguration>::instance();
-    if (path.isEmpty())
-        return;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw CommandError(ExitCode::Unreadable, path, file.errorString());
-    configuration.readContent(file.readAll(), path, u"cfg"_s);
+    if (!path.isEmpty())
+        configuration.readContent(bytesOf(path), path.shown(), u"cfg"_s);
 }
 
-/// A job that is emptied before it is read is lost.
-void requireOtherFile(const QString &output, const QString &input)
+/// What is emptied before it is read is lost.
+void requireOtherFile(const FileName &output, const FileName &input)
 {
-    if (!input.isEmpty() && QFileInfo(output).exists() && QFileInfo(output) == QFileInfo(input))
-        throw CommandError(
-            ExitCode::WrongUsage,
-            u"\"%1\" would be overwritten before it is read; name another output"_s.arg(input));
+    std::error_code unknown; // of files that are not there, which are not the same
+    if (std::filesystem::equivalent(output.path(), input.path(), unknown))
+        throw CommandError(ExitCode::WrongUsage, input,
+                           u"it would be overwritten before it is read; name another output"_s);
 }
+
+void openJob(QFile &job, const FileName &path)
+{
+    const int descriptor = ::open(path.system(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        throw CommandError(ExitCode::Unreadable, path, qt_error_string(errno));
+    job.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+}
+
+/// A job to be printed into a file.
+struct Task
+{
+    FileName path;
+    FileName output;
+    QFile job = {};
+};
 
 /// Prints the job, and throws where it ends too early.
-void print(const QString &path, QFile &job, PrinterDriver &printer, const QString &output)
+void print(Task &task, PrinterDriver &printer)
 {
     if (!printer.isOpen())
-        throw CommandError(ExitCode::WriteFailed, output, u"cannot be opened for writing"_s);
-    JobSource source(&job);
+        throw CommandError(ExitCode::WriteFailed, task.output, u"cannot be opened for writing"_s);
+    JobSource source(&task.job);
     JobHandler handler(printer, source);
     printJob(source, handler);
     const QString unwritten = printer.close();
     if (!unwritten.isEmpty())
-        throw CommandError(ExitCode::WriteFailed, output, u"not written completely: "_s + unwritten);
+        throw CommandError(ExitCode::WriteFailed, task.output, u"not written completely: "_s + unwritten);
+    if (task.job.error() != QFileDevice::NoError)
+        throw CommandError(ExitCode::Unreadable, task.path, task.job.errorString());
     if (handler.line() > 0)
-        throw CommandError(ExitCode::Refused, path, {handler.line(), handler.column()},
+        throw CommandError(ExitCode::Refused, task.path, {handler.line(), handler.column()},
                            handler.error() + u"; the job is printed up to here"_s);
 }
 
@@ -162,70 +215,73 @@ QString lostSentence(const LostCharacters &lost, const Profile &profile)
 }
 
 /// Tells it to whoever started the program, and to the log where one is configured.
-void tell(const QString &path, const QString &sentence)
+void tell(const FileName &path, const QString &sentence)
 {
-    printNote(path, sentence);
+    printNote(path.shown(), sentence);
     if (SyncSingleton<PVConfiguration>::instance()->getStrValue(applicationkey::loggerType).isEmpty())
         return;
     HLogManager &logs = *SyncSingleton<HLogManager>::instance();
     logs.set(u"render"_s, u"render"_s);
-    logs.getLog(u"render"_s)->warning(path + u": "_s + sentence);
+    logs.getLog(u"render"_s)->warning(path.shown() + u": "_s + sentence);
 }
 
-void printOnReceiptPrinter(const QString &path, QFile &job, const QString &output, const Profile &profile)
+void tellWhatIsMissing(const FileName &path, const EscPosPrinterDriver &printer, const Profile &profile)
 {
-    const QuietRenderer quiet;
-    EscPosPrinterDriver printer(QFile::encodeName(output), profile);
-    const auto tellAll = [&] {
-        if (!printer.lostCharacters().isEmpty())
-            tell(path, lostSentence(printer.lostCharacters(), profile));
-        for (const QString &trouble : printer.troubles())
-            tell(path, trouble);
-    };
+    if (!printer.lostCharacters().isEmpty())
+        tell(path, lostSentence(printer.lostCharacters(), profile));
+    for (const QString &trouble : printer.troubles())
+        tell(path, trouble);
+}
+
+void printOnReceiptPrinter(Task &task, EscPosPrinterDriver &printer, const Profile &profile)
+{
     try {
-        print(path, job, printer, output);
+        print(task, printer);
     } catch (const CommandError &) {
-        tellAll();
+        tellWhatIsMissing(task.path, printer, profile);
         throw;
     }
-    tellAll();
+    tellWhatIsMissing(task.path, printer, profile);
+}
+
+/// Prints the job on the printer that is asked for. `locale` is taken back as soon as it has served.
+void printAsAsked(const CommandLine &line, Task &task, std::optional<PrinterLocale> &locale)
+{
+    const NativeFileName output{task.output.bytes()};
+    if (isForLinePrinter(line)) {
+        CompanyPrinterDriver printer(output);
+        locale.reset();
+        print(task, printer);
+    } else {
+        const Profile &profile = chosenProfile(line);
+        EscPosPrinterDriver printer(output, profile);
+        locale.reset();
+        printOnReceiptPrinter(task, printer, profile);
+    }
 }
 
 ExitCode run(const CommandLine &line)
 {
-    const QString path = line.fileArgument(0);
-    const QString output = line.file(u"output");
-    const bool isLine = !line.has(u"device") || line.value(u"device") == lineDevice;
-    if (isLine && line.has(u"profile"))
-        throw CommandError(ExitCode::WrongUsage, u"the line printer has no profiles; add --device escpos"_s);
-    const Profile &profile = chosenProfile(line);
-    requireOtherFile(output, path);
-    requireOtherFile(output, line.file(u"config"));
-    QFile job(path);
-    if (!job.open(QIODevice::ReadOnly))
-        throw CommandError(ExitCode::Unreadable, path, job.errorString());
-    chooseLocale(line.value(u"locale"));
+    Task task{.path = line.fileArgument(0), .output = line.file(u"output")};
+    const FileName configuration = line.file(u"config");
+    requireSensible(line);
+    std::optional<PrinterLocale> locale(chosenLocale(line));
+    requireOtherFile(task.output, task.path);
+    requireOtherFile(task.output, configuration);
+    openJob(task.job, task.path);
     std::signal(SIGPIPE, SIG_IGN); // the write fails, and that is told
     std::signal(SIGXFSZ, SIG_IGN);
 
-    int argc = 1;
+    int words = 1;
     char name[] = "palvestrin";
-    char *argv[] = {name, nullptr};
-    const QCoreApplication application(argc, argv);
-    QTranslator translator;
-    {
-        const QuietRenderer quiet;
-        readConfiguration(line.file(u"config"));
-        loadCatalogue(translator, *SyncSingleton<PVConfiguration>::instance());
-    }
-    QCoreApplication::installTranslator(&translator);
-    if (!isLine) {
-        printOnReceiptPrinter(path, job, output, profile);
-        return ExitCode::Done;
-    }
+    char *word[] = {name, nullptr};
+    const QCoreApplication application(words, word);
     const QuietRenderer quiet;
-    CompanyPrinterDriver printer(QFile::encodeName(output));
-    print(path, job, printer, output);
+    readConfiguration(configuration);
+    QTranslator translator;
+    loadCatalogue(translator, *SyncSingleton<PVConfiguration>::instance());
+    QCoreApplication::installTranslator(&translator);
+    printAsAsked(line, task, locale);
     return ExitCode::Done;
 }
 

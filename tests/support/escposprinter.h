@@ -32,7 +32,7 @@ inline QByteArray printedOn(const Profile &profile, const std::function<void(Tes
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("output"));
     {
-        TestEscPosPrinter printer(path.toUtf8(), profile);
+        TestEscPosPrinter printer(NativeFileName{path.toUtf8()}, profile);
         job(printer);
     }
     return contentOf(path);

@@ -411,7 +411,7 @@ private Q_SLOTS:
 
     void anOutputThatCannotBeOpenedIsHarmless()
     {
-        TestEscPosPrinter printer("/no/folder/out", profileNamed("80mm"));
+        TestEscPosPrinter printer(NativeFileName{"/no/folder/out"}, profileNamed("80mm"));
         printer.startDocument();
         printer.element(u"method"_s, {{u"name"_s, u"printFullOrder"_s}});
         printer.println(u"text"_s);

@@ -19,7 +19,8 @@ private:
 
     ProgramRun palvestrin(const QStringList &words) const
     {
-        return runProgram(QStringLiteral(PALVESTRIN_PROGRAM), words, bareEnvironment(home.path()), home.path());
+        return runProgram(QStringLiteral(PALVESTRIN_PROGRAM), words, bareEnvironment(home.path()),
+                          home.path());
     }
     QByteArray output() const { return contentOf(home.filePath(u"out"_s)); }
     void writeJob(const QByteArray &job) const { writeFile(home.filePath(u"job.xml"_s), job); }
@@ -33,9 +34,10 @@ private Q_SLOTS:
         home.configure(contentOf(examples + u"/home/.palvestrin/conf/palvestrin.conf"_s));
         for (const QString &name : jobs.entryList({u"*.xml"_s})) {
             const QStringList files = {jobs.filePath(name), u"out"_s};
-            QCOMPARE(runProgram(QStringLiteral(PALVESTRIN_PRINT), files, bareEnvironment(home.path()), home.path())
-                         .failure,
-                     QString());
+            QCOMPARE(
+                runProgram(QStringLiteral(PALVESTRIN_PRINT), files, bareEnvironment(home.path()), home.path())
+                    .failure,
+                QString());
             const QByteArray expected = output();
             const ProgramRun run = palvestrin({u"render"_s, files[0], u"-o"_s, files[1]});
             QCOMPARE(run.failure, QString());
@@ -46,15 +48,19 @@ private Q_SLOTS:
 
     void aReceiptPrinter()
     {
-        writeJob("<job><method name=\"printPartialOrder\"/><receipe number=\"1\" name=\"\xC5\x81oso\xC5\x9B \xE2\x82\xAC\"/>"
+        writeJob("<job><method name=\"printPartialOrder\"/><receipe number=\"1\" name=\"\xC5\x81oso\xC5\x9B "
+                 "\xE2\x82\xAC\"/>"
                  "</job>");
-        const ProgramRun run = palvestrin({u"render"_s, u"job.xml"_s, u"--device"_s, u"escpos"_s, u"--profile"_s,
-                                           u"generic"_s, u"-o"_s, u"out"_s});
+        const ProgramRun run = palvestrin({u"render"_s, u"job.xml"_s, u"--device"_s, u"escpos"_s,
+                                           u"--profile"_s, u"generic"_s, u"-o"_s, u"out"_s});
         QCOMPARE(run.failure, QString());
         QCOMPARE(run.standardOutput, QByteArray());
-        QCOMPARE(run.standardError, QByteArray("job.xml: note: printed as \"?\", for the profile generic has no such "
-                                               "letters: \xC5\x81 (U+0141, 1 times)\n"));
-        QCOMPARE(output(), escpos("1B40 1C2E 1B7400 1B5200 1B40 1C2E 1B7400 1B5200 ' 1 ' 3F 'osos ' 1B7413 D5 0A 1B6405"));
+        QCOMPARE(run.standardError,
+                 QByteArray("job.xml: note: printed as \"?\", for the profile generic has no such "
+                            "letters: \xC5\x81 (U+0141, 1 times)\n"));
+        QCOMPARE(
+            output(),
+            escpos("1B40 1C2E 1B7400 1B5200 1B40 1C2E 1B7400 1B5200 ' 1 ' 3F 'osos ' 1B7413 D5 0A 1B6405"));
     }
 
     void lostLettersAreLogged()
@@ -62,17 +68,20 @@ private Q_SLOTS:
         home.configure("palvestrin: { logger: { level = WARNING; type = APPEND; basedir = " +
                        home.path().toUtf8() + "; filename = test.log; }; };");
         writeJob("<job><method name=\"printPartialOrder\"/><receipe name=\"\xC5\x82\"/></job>");
-        palvestrin({u"render"_s, u"job.xml"_s, u"--device"_s, u"escpos"_s, u"--profile"_s, u"generic"_s, u"-o"_s,
-                    u"out"_s});
+        palvestrin({u"render"_s, u"job.xml"_s, u"--device"_s, u"escpos"_s, u"--profile"_s, u"generic"_s,
+                    u"-o"_s, u"out"_s});
         const QByteArray log = contentOf(home.filePath(u"test.log"_s));
-        QVERIFY2(log.contains("WARNING: job.xml: printed as \"?\", for the profile generic has no such letters"), log);
+        QVERIFY2(
+            log.contains("WARNING: job.xml: printed as \"?\", for the profile generic has no such letters"),
+            log);
     }
 
     void anotherConfiguration()
     {
         writeJob("<job><method name=\"printPartialOrder\"/><orderinfo/></job>");
         writeFile(home.filePath(u"other.conf"_s), "palvestrin: { doc: { paperWidth = 5; }; };");
-        QCOMPARE(palvestrin({u"render"_s, u"job.xml"_s, u"--config"_s, u"other.conf"_s, u"-o"_s, u"out"_s}).failure,
+        QCOMPARE(palvestrin({u"render"_s, u"job.xml"_s, u"--config"_s, u"other.conf"_s, u"-o"_s, u"out"_s})
+                     .failure,
                  QString());
         QCOMPARE(output(), QByteArray("\nj\n\"=====\"@\nJ\n"));
     }
@@ -86,31 +95,38 @@ private Q_SLOTS:
                                 << QByteArray("none.xml: error: No such file or directory\n");
         QTest::newRow("no configuration")
             << QStringList{u"job.xml"_s, u"-o"_s, u"out"_s, u"--config"_s, u"none.conf"_s} << 4
-            << QByteArray("none.conf: error: No such file or directory\n");
+            << QByteArray("none.conf: error: it is no regular file; give one\n");
         QTest::newRow("no folder") << QStringList{u"job.xml"_s, u"-o"_s, u"no/out"_s} << 7
                                    << QByteArray("no/out: error: cannot be opened for writing\n");
         QTest::newRow("a full disk") << QStringList{u"job.xml"_s, u"-o"_s, u"/dev/full"_s} << 7
-                                     << QByteArray("/dev/full: error: not written completely: No space left on "
-                                                   "device\n");
-        QTest::newRow("no profile")
-            << QStringList{u"job.xml"_s, u"-o"_s, u"out"_s, u"--device"_s, u"escpos"_s, u"--profile"_s, u"90mm"_s}
-            << 2 << QByteArray("palvestrin: error: there is no profile \"90mm\"; there are 80mm, 80mm-42, 58mm, generic\n");
+                                     << QByteArray(
+                                            "/dev/full: error: not written completely: No space left on "
+                                            "device\n");
+        QTest::newRow("no profile") << QStringList{u"job.xml"_s, u"-o"_s,        u"out"_s, u"--device"_s,
+                                                   u"escpos"_s,  u"--profile"_s, u"90mm"_s}
+                                    << 2
+                                    << QByteArray("palvestrin: error: there is no profile \"90mm\"; there "
+                                                  "are 80mm, 80mm-42, 58mm, generic\n");
         QTest::newRow("a profile of the line printer")
             << QStringList{u"job.xml"_s, u"-o"_s, u"out"_s, u"--profile"_s, u"80mm"_s} << 2
             << QByteArray("palvestrin: error: the line printer has no profiles; add --device escpos\n");
-        QTest::newRow("no locale") << QStringList{u"job.xml"_s, u"-o"_s, u"out"_s, u"--locale"_s, u"xx_XX"_s} << 2
-                                   << QByteArray("palvestrin: error: the locale \"xx_XX\" is not installed; \"locale "
-                                                 "-a\" lists those that are\n");
+        QTest::newRow("no locale")
+            << QStringList{u"job.xml"_s, u"-o"_s, u"out"_s, u"--locale"_s, u"xx_XX"_s} << 2
+            << QByteArray("palvestrin: error: the locale \"xx_XX\" is not installed; \"locale "
+                          "-a\" lists those that are\n");
         QTest::newRow("onto itself") << QStringList{u"job.xml"_s, u"-o"_s, u"./job.xml"_s} << 2
-                                     << QByteArray("palvestrin: error: \"job.xml\" would be overwritten before it is "
-                                                   "read; name another output\n");
+                                     << QByteArray(
+                                            "job.xml: error: it would be overwritten before it is read; name "
+                                            "another output\n");
         QTest::newRow("a register's document")
             << QStringList{u"fiscal.xml"_s, u"-o"_s, u"out"_s, u"--device"_s, u"escpos"_s} << 3
-            << QByteArray("fiscal.xml:1:42: error: \"printFullOrderFiscal\" is for a cash register, which speaks a "
-                          "language of its own: this printer prints everything else; the job is printed up to here\n");
-        QTest::newRow("an unknown method")
-            << QStringList{u"unknown.xml"_s, u"-o"_s, u"out"_s} << 3
-            << QByteArray("unknown.xml:1:26: error: there is no print method \"menu\"; the job is printed up to here\n");
+            << QByteArray(
+                   "fiscal.xml:1:42: error: \"printFullOrderFiscal\" is for a cash register, which speaks a "
+                   "language of its own: this printer prints everything else; the job is printed up to "
+                   "here\n");
+        QTest::newRow("an unknown method") << QStringList{u"unknown.xml"_s, u"-o"_s, u"out"_s} << 3
+                                           << QByteArray("unknown.xml:1:26: error: there is no print method "
+                                                         "\"menu\"; the job is printed up to here\n");
     }
     void whatGoesWrong()
     {
