@@ -100,9 +100,8 @@ QString applicationKeysChapter()
 {
     QString chapter = u".SH SETTINGS OF THE APPLICATION\n"_s;
     for (const vocabulary::ApplicationKey &key : vocabulary::applicationKeys) {
-        chapter += manualEntry(
-            key.name, valueInManual(key.kind),
-            u"%1; when missing: %2. Read by: %3."_s.arg(key.meaning, key.whenMissing, key.readBy));
+        chapter += manualEntry(key.name, valueInManual(key.kind),
+                               u"%1; when missing: %2. Read by: %3."_s.arg(key.meaning, key.whenMissing, key.readBy));
     }
     return chapter;
 }
