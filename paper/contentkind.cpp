@@ -44,13 +44,28 @@ bool isOutput(QByteArrayView beginning)
     return isOfStream(length < 0 ? beginning : beginning.first(length));
 }
 
+/// Whether the first control character, but for those of plain text, is one that commands begin with.
+bool isForReceiptPrinter(QByteArrayView beginning)
+{
+    constexpr QByteArrayView plain("\0\t\n\f\r", 5);
+    constexpr QByteArrayView commands("\x10\x1b\x1c\x1d");
+    for (const char byte : beginning) {
+        const bool isControl = static_cast<unsigned char>(byte) < 0x20;
+        if (isControl && !plain.contains(byte))
+            return commands.contains(byte);
+    }
+    return false;
+}
+
 } // namespace
 
 ContentKind contentKind(QByteArrayView beginning)
 {
     if (isXml(beginning))
         return ContentKind::Job;
-    return isOutput(beginning) ? ContentKind::Output : ContentKind::Neither;
+    if (isOutput(beginning))
+        return ContentKind::Output;
+    return isForReceiptPrinter(beginning) ? ContentKind::ReceiptPrinter : ContentKind::Neither;
 }
 
 } // namespace paper

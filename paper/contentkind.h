@@ -8,6 +8,7 @@ namespace paper {
 enum class ContentKind {
     Job,     ///< XML, in any encoding that an XML reader takes
     Output,  ///< a finished output of `palvestrin-print`, whole or broken
+    ReceiptPrinter, ///< ESC/POS commands, whoever made them
     Neither, ///< an empty file too
 };
 

@@ -12,6 +12,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <iostream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -91,6 +92,15 @@ QByteArray pathOf(const QFile &file, const FileName &name)
     return FileName(std::filesystem::absolute(name.path(), error)).bytes();
 }
 
+/// What prints the job `path` into the file `output`.
+ChildProgram rendererFor(const Rendering &rendering, const QByteArray &path, const QByteArray &output)
+{
+    if (rendering.profile.isEmpty())
+        return {companionPath({u"palvestrin-print"_s, u"palvestrin-print"_s}), {path, output}};
+    return {companionPath({u"palvestrin"_s, u"palvestrin-tools"_s}),
+            {"render", "--device", "escpos", "--profile", rendering.profile, "--output", output, "--", path}};
+}
+
 } // namespace
 
 FinishedOutput::FinishedOutput(const FileName &file, const Rendering &rendering)
@@ -102,12 +112,16 @@ FinishedOutput::FinishedOutput(const FileName &file, const Rendering &rendering)
     switch (paper::contentKind(output->peek(paper::tellingLength))) {
     case paper::ContentKind::Job:
         source = std::move(output);
+        isReceipts = !rendering.profile.isEmpty();
         render(rendering);
+        return;
+    case paper::ContentKind::ReceiptPrinter:
+        isReceipts = true;
         return;
     case paper::ContentKind::Output:
         return;
     case paper::ContentKind::Neither:
-        refuse(title, u"this is neither a print job (XML) nor a finished output of palvestrin-print"_s);
+        refuse(title, u"this is neither a print job (XML) nor what goes to a printer"_s);
     }
 }
 
@@ -154,8 +168,7 @@ void FinishedOutput::render(const Rendering &rendering)
 void FinishedOutput::print(const Rendering &rendering, const QString &folder) const
 {
     const QByteArray path = pathOf(*source, title);
-    ChildProgram printer{companionPath({u"palvestrin-print"_s, u"palvestrin-print"_s}),
-                         {path, QFile::encodeName(folder) + "/output"}};
+    ChildProgram printer = rendererFor(rendering, path, QFile::encodeName(folder) + "/output");
     if (!rendering.configuration.isEmpty()) {
         if (!makeHome(folder, rendering.configuration))
             failToPlace(title);
@@ -163,7 +176,18 @@ void FinishedOutput::print(const Rendering &rendering, const QString &folder) co
     }
     if (!rendering.locale.isEmpty())
         printer.environment.emplace_back("LC_ALL", rendering.locale);
-    runChild(printer, [this](const QByteArray &line) { printNote(title.shown(), QString::fromUtf8(line)); });
+    const int status = runChild(printer, [&](const QByteArray &line) { hear(line, path); });
     if (dynamic_cast<QTemporaryFile *>(source.get()))
         ::unlink(path.constData());
+    if (status != 0)
+        throw CommandError(static_cast<ExitCode>(status));
+}
+
+/// Passes on what the renderer says. Where it names the file, which may be a copy, people know another name.
+void FinishedOutput::hear(const QByteArray &line, const QByteArray &path) const
+{
+    if (line.startsWith(path))
+        std::cerr << title.bytes().constData() << line.sliced(path.size()).constData() << '\n';
+    else
+        printNote(title.shown(), QString::fromUtf8(line));
 }

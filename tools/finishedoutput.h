@@ -11,6 +11,7 @@ struct Rendering
 {
     FileName configuration; ///< an empty name means the user's
     QByteArray locale;      ///< in which the renderer runs; "" means that of the environment
+    QByteArray profile = {}; ///< of the receipt printer; "" means the line printer
 };
 
 /// What goes to the printer, of one FILE of the command line: a finished output as it is, or the output of
@@ -29,13 +30,17 @@ public:
     QFile *job();
     /// Open and at its beginning.
     QFile &stream();
+    /// Whether it is ESC/POS, and not the line printer's.
+    bool isForReceiptPrinter() const { return isReceipts; }
 
 private:
     void open(const FileName &file);
     void render(const Rendering &rendering);
     void print(const Rendering &rendering, const QString &folder) const;
+    void hear(const QByteArray &line, const QByteArray &path) const;
 
     FileName title;
     std::unique_ptr<QFile> output;
     std::unique_ptr<QFile> source; ///< the job
+    bool isReceipts = false;
 };

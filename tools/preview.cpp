@@ -5,6 +5,7 @@
 #include "configfile.h"
 #include "faultlist.h"
 #include "localeencoding.h"
+#include "printerchoice.h"
 #include "stripwidths.h"
 #include "terminal.h"
 
@@ -32,6 +33,9 @@ constexpr Option options[] = {
     {"columns"_L1, "How wide the paper is; else as configured, and 32 at least."_L1, &numberArgument},
     {"scale"_L1, "How large a picture is."_L1, &numberArgument},
     {"marks"_L1, "Show a ruler of the columns; on a terminal, blanks too."_L1},
+    deviceOption,
+    profileOption,
+    {"hex"_L1, "List bytes, command and meaning of what goes to a receipt printer."_L1},
 };
 constexpr Operand operands[] = {{&fileArgument, Operand::OneOrMore}};
 
@@ -162,12 +166,21 @@ Preview previewFrom(const CommandLine &line)
     refuseIdleOptions(preview);
     refuseToOverwriteInput(preview);
     refuseUnreadableOnTerminal(preview);
-    preview.rendering = {chosenConfiguration(line), chosenLocale(line)};
+    preview.hex = line.has(u"hex");
+    if (preview.hex && (preview.marks || preview.columns > 0 || (preview.format && preview.format->isPicture)))
+        refuse(u"--hex lists bytes as text; leave out --marks, --columns and pictures"_s);
+    preview.profile = &chosenProfile(line);
+    preview.rendering = {chosenConfiguration(line), chosenLocale(line),
+                         isForReceiptPrinter(line) ? QByteArray(preview.profile->name.data()) : QByteArray()};
     return preview;
 }
 
 ExitCode show(const Preview &preview, FaultList &faults)
 {
+    if (preview.hex) {
+        writeHex(preview);
+        return ExitCode::Done;
+    }
     if (preview.format && preview.format->isPicture)
         return drawPicture(preview, faults);
     preview.format ? writeText(preview, faults) : showOnTerminal(preview, faults);

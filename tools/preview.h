@@ -3,6 +3,7 @@
 #include "command.h"
 #include "filename.h"
 #include "finishedoutput.h"
+#include "profiles.h"
 
 #include <QList>
 
@@ -34,6 +35,8 @@ struct Preview
     int columns = 0;                       ///< of the paper; 0 means those of each document
     QString scale;                         ///< of a picture, as given; "" for its usual size
     bool marks = false;
+    bool hex = false;                       ///< list the bytes of a receipt printer
+    const Profile *profile = &usualProfile; ///< of the receipt printer
 
     /// The encoding of what the renderer writes.
     QByteArray encoding() const;
@@ -45,5 +48,7 @@ struct Preview
 class FaultList;
 void showOnTerminal(const Preview &preview, FaultList &faults);
 void writeText(const Preview &preview, FaultList &faults);
+/// Lists bytes, command and meaning of what goes to a receipt printer.
+void writeHex(const Preview &preview);
 /// Hands over to palvestrin-draw; returns how that ended.
 ExitCode drawPicture(const Preview &preview, FaultList &faults);

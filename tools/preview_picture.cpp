@@ -19,10 +19,11 @@ struct PictureContent
 {
     QTemporaryFile stream;
     std::vector<int> widths;
+    bool isForReceiptPrinter = false;
 };
 
 /// Adds a finished output, which may end anywhere, so that the next one begins a line.
-void append(QIODevice &stream, QIODevice &output)
+void append(QIODevice &stream, QIODevice &output, bool hasLines)
 {
     char last = '\n';
     constexpr qint64 pieceSize = 65536;
@@ -31,7 +32,7 @@ void append(QIODevice &stream, QIODevice &output)
             throw CommandError(ExitCode::WriteFailed, u"no room for a copy: "_s + stream.errorString());
         last = piece.back();
     }
-    if (last != '\n')
+    if (hasLines && last != '\n')
         stream.putChar('\n');
 }
 
@@ -42,13 +43,18 @@ void collect(const Preview &preview, PictureContent &content, FaultList &faults)
         throw CommandError(ExitCode::WriteFailed, u"no place for a copy: "_s + content.stream.errorString());
     for (const FileName &file : preview.files) {
         FinishedOutput output(file, preview.rendering);
+        if (&file == &preview.files.first())
+            content.isForReceiptPrinter = output.isForReceiptPrinter();
+        if (content.isForReceiptPrinter != output.isForReceiptPrinter())
+            throw CommandError(ExitCode::WrongUsage, file,
+                               u"this is for another kind of printer; draw a picture of it alone"_s);
         paper::StripWidths ruled(configured.widest());
-        readOutput(output.stream(), preview.encoding(), ruled,
+        readOutput(output, preview, ruled,
                    [&](const paper::Fault &fault) { faults.add(output.name(), fault); });
         std::vector<int> widths = output.job() ? configured.ofJob(*output.job()) : ruled.widths();
         widths.resize(ruled.widths().size(), paper::StripWidths::least);
         content.widths.insert(content.widths.end(), widths.begin(), widths.end());
-        append(content.stream, output.stream());
+        append(content.stream, output.stream(), !content.isForReceiptPrinter);
     }
     content.stream.seek(0);
 }
@@ -65,16 +71,20 @@ QByteArray columnsArgument(const std::vector<int> &widths)
     return numbers.join(',');
 }
 
-QByteArrayList argumentsFor(const Preview &preview, const std::vector<int> &widths)
+QByteArrayList argumentsFor(const Preview &preview, const PictureContent &content)
 {
     QByteArrayList arguments{"--format",   preview.format->name.data(),
                              "--output",   preview.isForStandardOutput() ? "-" : preview.output.bytes(),
                              "--encoding", preview.encoding(),
                              "--title",    preview.files.first().bytes()};
+    if (content.isForReceiptPrinter)
+        arguments += {"--escpos", preview.profile->name.data()};
     if (preview.columns > 0)
         arguments += {"--columns", QByteArray::number(preview.columns)};
-    else if (!widths.empty())
-        arguments += {"--columns", columnsArgument(widths)};
+    else if (content.isForReceiptPrinter)
+        arguments += {"--columns", QByteArray::number(preview.profile->columns)};
+    else if (!content.widths.empty())
+        arguments += {"--columns", columnsArgument(content.widths)};
     if (!preview.scale.isEmpty())
         arguments += {"--scale", preview.scale.toUtf8()};
     if (preview.marks)
@@ -97,7 +107,7 @@ ExitCode drawPicture(const Preview &preview, FaultList &faults)
     ChildProgram draw{companionPath({u"palvestrin-draw"_s, u"palvestrin-desktop"_s}), {}};
     PictureContent content;
     collect(preview, content, faults);
-    draw.arguments = argumentsFor(preview, content.widths);
+    draw.arguments = argumentsFor(preview, content);
     draw.input = content.stream.handle();
     draw.isOutputHeard = false;
     const auto code = static_cast<ExitCode>(runChild(draw, passOn));

@@ -17,10 +17,12 @@ std::vector<int> widthsOf(FinishedOutput &output, const PaperWidths &configured,
 {
     if (preview.columns > 0)
         return {preview.columns};
+    if (output.isForReceiptPrinter())
+        return {preview.profile->columns};
     if (QFile *job = output.job())
         return configured.ofJob(*job);
     paper::StripWidths ruled(configured.widest());
-    readOutput(output.stream(), preview.encoding(), ruled, [](const paper::Fault &) {});
+    readOutput(output, preview, ruled, [](const paper::Fault &) {});
     return ruled.widths();
 }
 
@@ -35,7 +37,7 @@ void showAll(const Preview &preview, std::ostream &out, FaultList &faults)
             painter.title(paper::visible(file.shown()));
         painter.setWidths(widthsOf(output, configured, preview));
         readOutput(
-            output.stream(), preview.encoding(), painter,
+            output, preview, painter,
             [&](const paper::Fault &fault) { faults.add(output.name(), fault); },
             [&out] { return bool(out); });
     }

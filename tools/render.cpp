@@ -1,3 +1,4 @@
+#include "printerchoice.h"
 #include "render.h"
 
 #include "applicationkeys.h"
@@ -30,19 +31,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr auto lineDevice = "line"_L1;
-
-QList<Offer> offerProfiles(const CommandLine &, const QString &)
-{
-    QList<Offer> offers;
-    for (const Profile &profile : profiles)
-        offers += Offer{profile.name, profile.title};
-    return offers;
-}
-
 constexpr Argument jobArgument{.name = "JOB"_L1, .offers = offerFiles};
-constexpr Argument deviceArgument{.name = "line|escpos"_L1};
-constexpr Argument profileArgument{.name = "PROFILE"_L1, .offers = offerProfiles};
 constexpr Argument localeArgument{.name = "LOCALE"_L1};
 constexpr Operand operands[] = {{&jobArgument}};
 constexpr Option options[] = {
@@ -51,12 +40,8 @@ constexpr Option options[] = {
      .argument = &fileArgument,
      .isRequired = true,
      .letter = 'o'},
-    {.name = "device"_L1,
-     .meaning = "For the line printer, or for a receipt printer."_L1,
-     .argument = &deviceArgument},
-    {.name = "profile"_L1,
-     .meaning = "What the receipt printer can do; usually 80mm."_L1,
-     .argument = &profileArgument},
+    deviceOption,
+    profileOption,
     {.name = "config"_L1,
      .meaning = "Use this configuration instead of the user's."_L1,
      .argument = &fileArgument},
@@ -79,34 +64,9 @@ private:
     std::streambuf *saved;
 };
 
-QString profileNames()
-{
-    QStringList names;
-    for (const Profile &profile : profiles)
-        names += profile.name;
-    return names.join(u", "_s);
-}
-
-bool isForLinePrinter(const CommandLine &line)
-{
-    return !line.has(u"device") || line.value(u"device") == lineDevice;
-}
-
-const Profile &chosenProfile(const CommandLine &line)
-{
-    const QString name = line.value(u"profile");
-    if (name.isEmpty())
-        return usualProfile;
-    const Profile *profile = findProfile(name);
-    if (!profile)
-        throw CommandError(ExitCode::WrongUsage,
-                           u"there is no profile \"%1\"; there are %2"_s.arg(name, profileNames()));
-    return *profile;
-}
-
 void requireSensible(const CommandLine &line)
 {
-    if (isForLinePrinter(line) && line.has(u"profile"))
+    if (!isForReceiptPrinter(line) && line.has(u"profile"))
         throw CommandError(ExitCode::WrongUsage, u"the line printer has no profiles; add --device escpos"_s);
     chosenProfile(line);
 }
@@ -248,7 +208,7 @@ void printOnReceiptPrinter(Task &task, EscPosPrinterDriver &printer, const Profi
 void printAsAsked(const CommandLine &line, Task &task, std::optional<PrinterLocale> &locale)
 {
     const NativeFileName output{task.output.bytes()};
-    if (isForLinePrinter(line)) {
+    if (!isForReceiptPrinter(line)) {
         CompanyPrinterDriver printer(output);
         locale.reset();
         print(task, printer);

@@ -45,7 +45,7 @@ public:
     DrawParser()
     {
         parser.setApplicationDescription(u"Draws what palvestrin-print wrote, read on standard input."_s);
-        parser.addOptions({format, output, scale, marks, columns, encoding, title, help});
+        parser.addOptions({format, output, scale, marks, columns, encoding, escpos, title, help});
     }
 
     /// All but the output, whose name is bytes.
@@ -64,6 +64,7 @@ public:
         options.picture = {parseScale(*options.format), parser.isSet(marks), parser.value(title)};
         options.columns = parseColumns();
         options.encoding = parseEncoding();
+        options.receiptPrinter = parseProfile();
         return options;
     }
 
@@ -115,6 +116,16 @@ private:
             refuse(u"the encoding \"%1\" is not known"_s.arg(parser.value(encoding)));
         return name;
     }
+    /// Null when the stream is the line printer's.
+    const Profile *parseProfile() const
+    {
+        if (!parser.isSet(escpos))
+            return nullptr;
+        const Profile *profile = findProfile(parser.value(escpos));
+        if (!profile)
+            refuse(u"the profile \"%1\" is not known"_s.arg(parser.value(escpos)));
+        return profile;
+    }
     static int number(const QString &text, const QString &option, int most)
     {
         bool isNumber = false;
@@ -139,6 +150,8 @@ private:
         u"Columns of the paper; of the paper of each section: N,N,... (the last one goes on)."_s, u"N"_s,
         QString::number(usualColumns)};
     const QCommandLineOption encoding{u"encoding"_s, u"The encoding of the stream."_s, u"NAME"_s, u"UTF-8"_s};
+    const QCommandLineOption escpos{u"escpos"_s, u"The stream is for a receipt printer with this profile."_s,
+                                    u"PROFILE"_s};
     const QCommandLineOption title{u"title"_s, u"The title that programs show for the picture."_s, u"TEXT"_s};
     const QCommandLineOption help{{u"h"_s, u"help"_s}, u"Show this help."_s};
     QCommandLineParser parser;

@@ -2,6 +2,7 @@
 
 #include "filename.h"
 #include "picture.h"
+#include "profiles.h"
 
 #include <QByteArrayList>
 #include <QList>
@@ -30,6 +31,7 @@ struct DrawOptions
     PictureOptions picture;
     QList<int> columns; ///< of the paper of each strip
     QByteArray encoding;
+    const Profile *receiptPrinter = nullptr; ///< that the stream is for; null for the line printer
 };
 
 /// Reads the words behind the program's name, as the system has them; prints the help and ends the program

@@ -1,6 +1,7 @@
 #include "drawprogram.h"
 
 #include "commanderror.h"
+#include "decoder.h"
 #include "drawoptions.h"
 #include "localeencoding.h"
 #include "missingcharacters.h"
@@ -63,13 +64,27 @@ private:
     qint64 count = 0;
 };
 
-void readAll(paper::StreamReader &reader)
+template <typename Take>
+void readAll(Take take)
 {
     std::array<char, 65536> block;
     for (size_t size = 0; (size = std::fread(block.data(), 1, block.size(), stdin)) > 0;)
-        reader.read({block.data(), qsizetype(size)});
+        take(QByteArrayView(block.data(), qsizetype(size)));
     if (std::ferror(stdin) != 0)
         throw CommandError(ExitCode::Unreadable, u"the standard input cannot be read"_s);
+}
+
+void readStream(const DrawOptions &options, paper::Painter &painter, Faults &faults)
+{
+    if (options.receiptPrinter) {
+        Decoder decoder(painter, *options.receiptPrinter, Decoder::Width::OfPaper);
+        readAll([&](QByteArrayView bytes) { decoder.take(bytes); });
+        decoder.end();
+        return;
+    }
+    paper::StreamReader reader(options.encoding, painter,
+                               [&](const paper::Fault &fault) { faults.add(fault); });
+    readAll([&](QByteArrayView bytes) { reader.read(bytes); });
     reader.finish();
 }
 
@@ -91,9 +106,7 @@ void draw(const DrawOptions &options)
     typeface::require();
     StripCollector collector(options.columns);
     Faults faults;
-    paper::StreamReader reader(options.encoding, collector,
-                               [&](const paper::Fault &fault) { faults.add(fault); });
-    readAll(reader);
+    readStream(options, collector, faults);
     const std::vector<Strip> &strips = collector.strips();
     if (strips.empty())
         throw CommandError(ExitCode::Unreadable, u"there is nothing to draw: the stream has no section"_s);
