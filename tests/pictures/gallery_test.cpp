@@ -28,6 +28,7 @@ QStringList shownIn(const QString &document)
     for (const QRegularExpressionMatch &match :
          image.globalMatch(QString::fromUtf8(contentOf(source.filePath(document)))))
         names += match.captured(1);
+    names.removeDuplicates(); // one may stand beside several others
     names.sort();
     return names;
 }

@@ -282,7 +282,7 @@ private Q_SLOTS:
         row({u"."_s}, 4, ".: error: this is a folder; name a file");
         row({u"/dev/null"_s}, 4, "/dev/null: error: the file is empty");
         row({u"wide.conf"_s}, 4,
-            "wide.conf: error: this is neither a print job (XML) nor a finished output of palvestrin-print");
+            "wide.conf: error: this is neither a print job (XML) nor what goes to a printer");
         row({u"--config"_s, u"nosuch.conf"_s, u"job.xml"_s}, 4, "nosuch.conf: error: there is no such file");
         row({u"--config"_s, u"conf.xml"_s, u"job.xml"_s}, 4,
             "conf.xml: error: the renderer reads a configuration as text, and this is XML");
