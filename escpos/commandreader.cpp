@@ -38,7 +38,7 @@ qsizetype headSize(const CommandKind &kind)
     return kind.shape == Shape::Sized ? size + 2 : kind.shape == Shape::LongSized ? size + 4 : size;
 }
 
-qint64 dataSize(const Command &command)
+qint64 dataSize(const PrinterCommand &command)
 {
     const int first = command.kind->parameters;
     switch (command.kind->shape) {
@@ -128,7 +128,7 @@ void CommandReader::takeHead(char byte)
 
 void CommandReader::startData()
 {
-    const Command command{findKind(head), headOffset, head};
+    const PrinterCommand command{findKind(head), headOffset, head};
     untilZero = command.kind->shape == Shape::UntilZero;
     dataLeft = dataSize(command);
     inData = untilZero || dataLeft > 0;

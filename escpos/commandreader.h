@@ -12,7 +12,7 @@ public:
     virtual ~CommandSink() = default;
     /// Bytes to print. A run of them may come in several pieces.
     virtual void text(qint64 offset, QByteArrayView bytes) = 0;
-    virtual void command(const Command &command) = 0;
+    virtual void command(const PrinterCommand &command) = 0;
     /// The data behind the last command, in pieces.
     virtual void data(qint64 offset, QByteArrayView bytes) = 0;
     /// Behind every command, after all of its data.

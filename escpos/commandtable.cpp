@@ -146,13 +146,13 @@ std::span<const CommandKind> commandKinds()
     return kinds;
 }
 
-int Command::parameter(qsizetype index) const
+int PrinterCommand::parameter(qsizetype index) const
 {
     const qsizetype place = kind->bytes.size() + index;
     return place < bytes.size() ? static_cast<unsigned char>(bytes[place]) : 0;
 }
 
-QString Command::meaning() const
+QString PrinterCommand::meaning() const
 {
     const int first = parameter(0);
     if (kind->bytes == command::size)

@@ -7,7 +7,7 @@
 #include <span>
 
 class Decoder;
-struct Command;
+struct PrinterCommand;
 
 /// What stands behind the bytes that tell a command apart.
 enum class Shape {
@@ -30,13 +30,13 @@ struct CommandKind
     /// What it does. "%1" and "%2" stand for the first two parameters.
     QLatin1StringView words;
     QLatin1StringView values;              ///< names of what the first parameter may be, by "|", from 0 on
-    void (Decoder::*run)(const Command &); ///< null when nothing of it can be seen on paper
+    void (Decoder::*run)(const PrinterCommand &); ///< null when nothing of it can be seen on paper
 };
 
 std::span<const CommandKind> commandKinds();
 
 /// A command of a stream.
-struct Command
+struct PrinterCommand
 {
     const CommandKind *kind = nullptr;
     qint64 offset = 0; ///< of its first byte

@@ -19,7 +19,7 @@ constexpr std::size_t maxCells = 100'000;
 constexpr qsizetype maxGathered = 200'000;
 
 /// Many commands take the digit "1" for 1.
-int value(const Command &command)
+int value(const PrinterCommand &command)
 {
     const int parameter = command.parameter(0);
     return parameter >= '0' && parameter <= '9' ? parameter - '0' : parameter;
@@ -53,7 +53,7 @@ void Decoder::text(qint64, QByteArrayView bytes)
     }
 }
 
-void Decoder::command(const Command &command)
+void Decoder::command(const PrinterCommand &command)
 {
     current = command;
     gathered.clear();
@@ -154,13 +154,13 @@ int Decoder::indentation(int dots) const
     return justify == Justify::Left ? 0 : justify == Justify::Centre ? rest / 2 : rest;
 }
 
-void Decoder::tabulate(const Command &)
+void Decoder::tabulate(const PrinterCommand &)
 {
     const int stop = tabColumns * fontDots[font];
     putBlanksTo((rowDots / stop + 1) * stop);
 }
 
-void Decoder::endRow(const Command &)
+void Decoder::endRow(const PrinterCommand &)
 {
     endRow();
 }
@@ -173,18 +173,18 @@ void Decoder::endRow()
         finishRow();
 }
 
-void Decoder::dropRow(const Command &)
+void Decoder::dropRow(const PrinterCommand &)
 {
     row.cells.clear();
     rowDots = 0;
 }
 
-void Decoder::feedRows(const Command &command)
+void Decoder::feedRows(const PrinterCommand &command)
 {
     feed(command.parameter(0));
 }
 
-void Decoder::feedDots(const Command &command)
+void Decoder::feedDots(const PrinterCommand &command)
 {
     feed(command.parameter(0) / rowHeight);
 }
@@ -201,17 +201,17 @@ void Decoder::feed(int rows)
         finishRow();
 }
 
-void Decoder::moveTo(const Command &command)
+void Decoder::moveTo(const PrinterCommand &command)
 {
     putBlanksTo(command.wideParameter(0));
 }
 
-void Decoder::moveBy(const Command &command)
+void Decoder::moveBy(const PrinterCommand &command)
 {
     putBlanksTo(rowDots + command.wideParameter(0));
 }
 
-void Decoder::initialise(const Command &)
+void Decoder::initialise(const PrinterCommand &)
 {
     finishPicture();
     if (!row.cells.empty())
@@ -225,18 +225,18 @@ void Decoder::initialise(const Command &)
     justify = Justify::Left;
 }
 
-void Decoder::enterChinese(const Command &command)
+void Decoder::enterChinese(const PrinterCommand &command)
 {
     isChinese = true;
     remark(u"Chinese mode from byte %1 on: accents are lost in it"_s.arg(command.offset));
 }
 
-void Decoder::leaveChinese(const Command &)
+void Decoder::leaveChinese(const PrinterCommand &)
 {
     isChinese = false;
 }
 
-void Decoder::setCodePage(const Command &command)
+void Decoder::setCodePage(const PrinterCommand &command)
 {
     const CodePage *chosen = findCodePage(command.parameter(0));
     if (chosen)
@@ -247,18 +247,18 @@ void Decoder::setCodePage(const Command &command)
                    .arg(page->name));
 }
 
-void Decoder::setFont(const Command &command)
+void Decoder::setFont(const PrinterCommand &command)
 {
     font = std::min(value(command), int(std::size(fontDots)) - 1);
 }
 
-void Decoder::setSize(const Command &command)
+void Decoder::setSize(const PrinterCommand &command)
 {
     style.doubleWidth = command.parameter(0) / 16 > 0;
     style.doubleHeight = command.parameter(0) % 16 > 0;
 }
 
-void Decoder::setPrintMode(const Command &command)
+void Decoder::setPrintMode(const PrinterCommand &command)
 {
     const int mode = command.parameter(0);
     font = mode & 0x01;
@@ -268,22 +268,22 @@ void Decoder::setPrintMode(const Command &command)
     style.underlined = mode & 0x80;
 }
 
-void Decoder::setBold(const Command &command)
+void Decoder::setBold(const PrinterCommand &command)
 {
     style.bold = command.parameter(0) & 1;
 }
 
-void Decoder::setUnderlined(const Command &command)
+void Decoder::setUnderlined(const PrinterCommand &command)
 {
     style.underlined = value(command) > 0;
 }
 
-void Decoder::setInverse(const Command &command)
+void Decoder::setInverse(const PrinterCommand &command)
 {
     style.inverse = command.parameter(0) & 1;
 }
 
-void Decoder::setJustify(const Command &command)
+void Decoder::setJustify(const PrinterCommand &command)
 {
     if (!row.cells.empty()) // told in the middle of a row, it is not obeyed
         return;
@@ -293,7 +293,7 @@ void Decoder::setJustify(const Command &command)
         justify = Justify(side);
 }
 
-void Decoder::cut(const Command &)
+void Decoder::cut(const PrinterCommand &)
 {
     finishPicture();
     if (!row.cells.empty())
@@ -302,13 +302,13 @@ void Decoder::cut(const Command &)
     painter.event(paper::Event::Cut);
 }
 
-void Decoder::openDrawer(const Command &)
+void Decoder::openDrawer(const PrinterCommand &)
 {
     openStrip();
     painter.event(paper::Event::Drawer);
 }
 
-void Decoder::tellUnseen(const Command &command)
+void Decoder::tellUnseen(const PrinterCommand &command)
 {
     remark(u"%1 at byte %2 is not shown"_s.arg(hexOf(command.bytes)).arg(command.offset));
 }

@@ -32,40 +32,40 @@ public:
     void end();
 
     // What the commands do; the table of commands names them.
-    void tabulate(const Command &command);
-    void endRow(const Command &command);
-    void dropRow(const Command &command);
-    void feedRows(const Command &command);
-    void feedDots(const Command &command);
-    void moveTo(const Command &command);
-    void moveBy(const Command &command);
-    void initialise(const Command &command);
-    void enterChinese(const Command &command);
-    void leaveChinese(const Command &command);
-    void setCodePage(const Command &command);
-    void setFont(const Command &command);
-    void setSize(const Command &command);
-    void setPrintMode(const Command &command);
-    void setBold(const Command &command);
-    void setUnderlined(const Command &command);
-    void setInverse(const Command &command);
-    void setJustify(const Command &command);
-    void cut(const Command &command);
-    void openDrawer(const Command &command);
-    void startRaster(const Command &command);
-    void startColumns(const Command &command);
-    void startGraphics(const Command &command);
-    void startCode(const Command &command);
-    void startBarCode(const Command &command);
-    void printStoredLogo(const Command &command);
-    void printUnseenPicture(const Command &command);
-    void tellUnseen(const Command &command);
+    void tabulate(const PrinterCommand &command);
+    void endRow(const PrinterCommand &command);
+    void dropRow(const PrinterCommand &command);
+    void feedRows(const PrinterCommand &command);
+    void feedDots(const PrinterCommand &command);
+    void moveTo(const PrinterCommand &command);
+    void moveBy(const PrinterCommand &command);
+    void initialise(const PrinterCommand &command);
+    void enterChinese(const PrinterCommand &command);
+    void leaveChinese(const PrinterCommand &command);
+    void setCodePage(const PrinterCommand &command);
+    void setFont(const PrinterCommand &command);
+    void setSize(const PrinterCommand &command);
+    void setPrintMode(const PrinterCommand &command);
+    void setBold(const PrinterCommand &command);
+    void setUnderlined(const PrinterCommand &command);
+    void setInverse(const PrinterCommand &command);
+    void setJustify(const PrinterCommand &command);
+    void cut(const PrinterCommand &command);
+    void openDrawer(const PrinterCommand &command);
+    void startRaster(const PrinterCommand &command);
+    void startColumns(const PrinterCommand &command);
+    void startGraphics(const PrinterCommand &command);
+    void startCode(const PrinterCommand &command);
+    void startBarCode(const PrinterCommand &command);
+    void printStoredLogo(const PrinterCommand &command);
+    void printUnseenPicture(const PrinterCommand &command);
+    void tellUnseen(const PrinterCommand &command);
 
 private:
     enum class Justify { Left, Centre, Right };
 
     void text(qint64 offset, QByteArrayView bytes) override;
-    void command(const Command &command) override;
+    void command(const PrinterCommand &command) override;
     void data(qint64 offset, QByteArrayView bytes) override;
     void endOfCommand() override;
     void unknown(qint64 offset, QByteArrayView bytes) override;
@@ -107,7 +107,7 @@ private:
     paper::Picture picture;          ///< rows of dots that have not been painted yet
     bool pictureEndsWithRow = false; ///< it stands in a row, whose end feeds it
 
-    Command current;                    ///< whose data is being read
+    PrinterCommand current;                    ///< whose data is being read
     QByteArray gathered;                ///< of its data, as much as is needed
     void (Decoder::*whole)() = nullptr; ///< what to do with it when it is there
     int rasterMode = 0;

@@ -41,7 +41,7 @@ QString quoted(const QByteArray &bytes)
 
 } // namespace
 
-void Decoder::startRaster(const Command &command)
+void Decoder::startRaster(const PrinterCommand &command)
 {
     rasterMode = command.parameter(0);
     rasterBytes = command.wideParameter(1);
@@ -59,7 +59,7 @@ void Decoder::addRaster()
     gathered.remove(0, taken);
 }
 
-void Decoder::startColumns(const Command &)
+void Decoder::startColumns(const PrinterCommand &)
 {
     whole = &Decoder::addColumns;
 }
@@ -80,7 +80,7 @@ void Decoder::addColumns()
     pictureEndsWithRow = true;
 }
 
-void Decoder::startGraphics(const Command &)
+void Decoder::startGraphics(const PrinterCommand &)
 {
     whole = &Decoder::addGraphics;
 }
@@ -99,7 +99,7 @@ void Decoder::addGraphics()
     }
 }
 
-void Decoder::startCode(const Command &)
+void Decoder::startCode(const PrinterCommand &)
 {
     whole = &Decoder::addCode;
 }
@@ -147,7 +147,7 @@ void Decoder::printCode()
     }
 }
 
-void Decoder::startBarCode(const Command &)
+void Decoder::startBarCode(const PrinterCommand &)
 {
     whole = &Decoder::addBarCode;
 }
@@ -157,13 +157,13 @@ void Decoder::addBarCode()
     remark(u"%1 of %2, not drawn"_s.arg(current.meaning(), quoted(gathered)));
 }
 
-void Decoder::printStoredLogo(const Command &command)
+void Decoder::printStoredLogo(const PrinterCommand &command)
 {
     finishPicture();
     remark(u"picture %1 of the printer's memory"_s.arg(command.parameter(0)));
 }
 
-void Decoder::printUnseenPicture(const Command &command)
+void Decoder::printUnseenPicture(const PrinterCommand &command)
 {
     finishPicture();
     remark(u"a picture at byte %1 is not shown"_s.arg(command.offset));

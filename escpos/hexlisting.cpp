@@ -32,7 +32,7 @@ void HexListing::data(qint64 offset, QByteArrayView bytes)
     collect(Collected::Data, offset, bytes);
 }
 
-void HexListing::command(const Command &command)
+void HexListing::command(const PrinterCommand &command)
 {
     finish();
     list(command.offset, command.bytes, command.meaning());

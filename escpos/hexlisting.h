@@ -30,7 +30,7 @@ private:
     enum class Collected { Nothing, Text, Data };
 
     void text(qint64 offset, QByteArrayView bytes) override;
-    void command(const Command &command) override;
+    void command(const PrinterCommand &command) override;
     void data(qint64 offset, QByteArrayView bytes) override;
     void endOfCommand() override;
     void unknown(qint64 offset, QByteArrayView bytes) override;
