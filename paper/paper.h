@@ -38,8 +38,15 @@ struct Cell
 struct Row
 {
     std::vector<Cell> cells;
-    QString meaning; ///< what a register command does, in words; "" for a row of paper
+    QString meaning;       ///< what a register command does, in words; "" for a row of paper
+    bool isNarrow = false; ///< printed in a narrow font, `narrowColumns` of which fill the paper
 };
+
+/// How many characters of the narrow font stand on paper of `columns`: four take the room of three.
+inline int narrowColumns(int columns)
+{
+    return columns * 4 / 3;
+}
 
 /// Dots of a picture as the head burns them: 12 across a column and 24 down a row of text.
 struct Picture
@@ -54,6 +61,9 @@ struct Picture
     QByteArray dots;
 
     int bytesPerRow() const { return (width + 7) / 8; }
+    /// What it takes, blanks at the left included, in columns and rows of text begun.
+    int columns() const { return (left + width + dotsPerColumn - 1) / dotsPerColumn; }
+    int rows() const { return (height + dotsPerRow - 1) / dotsPerRow; }
     /// False outside the picture too.
     bool isBlack(int x, int y) const;
 };

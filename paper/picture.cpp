@@ -47,11 +47,9 @@ bool Picture::isBlack(int x, int y) const
 
 std::vector<Row> rowsOf(const Picture &picture)
 {
-    const auto rounded = [](int dots, int size) { return (dots + size - 1) / size; };
-    std::vector<Row> rows(rounded(picture.height, Picture::dotsPerRow));
-    const int columns = rounded(picture.left + picture.width, Picture::dotsPerColumn);
+    std::vector<Row> rows(picture.rows());
     for (std::size_t row = 0; row < rows.size(); ++row) {
-        for (int column = 0; column < columns; ++column)
+        for (int column = 0; column < picture.columns(); ++column)
             rows[row].cells.push_back(cellAt(picture, column, int(row)));
     }
     return rows;

@@ -1,6 +1,7 @@
 #include "papersheet.h"
 
 #include "colours.h"
+#include "dotdrawing.h"
 #include "eventdrawing.h"
 #include "marks.h"
 #include "rowdrawing.h"
@@ -17,8 +18,15 @@ const paper::Row *rowOf(const Strip::Line &line)
     return std::get_if<paper::Row>(&line);
 }
 
+const paper::Picture *pictureOf(const Strip::Line &line)
+{
+    return std::get_if<paper::Picture>(&line);
+}
+
 qreal lineHeight(const Strip::Line &line)
 {
+    if (const paper::Picture *picture = pictureOf(line))
+        return picture->height * dotSize;
     return rowOf(line) == nullptr ? eventHeight : heightOf(*rowOf(line));
 }
 
@@ -32,6 +40,8 @@ qreal linesHeight(const std::vector<Strip::Line> &lines)
 
 int lineColumns(const Strip::Line &line)
 {
+    if (const paper::Picture *picture = pictureOf(line))
+        return picture->columns();
     return rowOf(line) == nullptr ? 0 : columnsOf(*rowOf(line));
 }
 
@@ -78,6 +88,8 @@ void PaperSheet::drawLines(QPainter &painter) const
     for (const Strip::Line &line : strip.lines) {
         if (const paper::Row *row = rowOf(line))
             drawRow(painter, *row, strip.columns, corner);
+        else if (const paper::Picture *picture = pictureOf(line))
+            drawDots(painter, *picture, corner);
         else if (const auto *event = std::get_if<paper::Event>(&line))
             drawEvent(painter, *event, corner.y(), paperSize.width());
         else

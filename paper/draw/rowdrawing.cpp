@@ -95,6 +95,16 @@ void drawEdge(QPainter &painter, QPointF top, qreal height)
     painter.restore();
 }
 
+void drawUsualRow(QPainter &painter, const paper::Row &row, int paperColumns, QPointF corner)
+{
+    const qreal height = heightOf(row);
+    const std::vector<Run> runs = runsOf(row, paperColumns);
+    for (const Run &run : runs)
+        RunDrawing(painter, run, corner, height).draw();
+    if (!runs.empty() && runs.back().isOver)
+        drawEdge(painter, corner + QPointF(paperColumns * cellWidth, 0), height);
+}
+
 } // namespace
 
 qreal heightOf(const paper::Row &row)
@@ -105,10 +115,11 @@ qreal heightOf(const paper::Row &row)
 
 void drawRow(QPainter &painter, const paper::Row &row, int paperColumns, QPointF corner)
 {
-    const qreal height = heightOf(row);
-    const std::vector<Run> runs = runsOf(row, paperColumns);
-    for (const Run &run : runs)
-        RunDrawing(painter, run, corner, height).draw();
-    if (!runs.empty() && runs.back().isOver)
-        drawEdge(painter, corner + QPointF(paperColumns * cellWidth, 0), height);
+    if (!row.isNarrow)
+        return drawUsualRow(painter, row, paperColumns, corner);
+    painter.save();
+    painter.translate(corner);
+    painter.scale(0.75, 1);
+    drawUsualRow(painter, row, paper::narrowColumns(paperColumns), {});
+    painter.restore();
 }

@@ -79,5 +79,5 @@ int columnsOf(const Row &row)
     int columns = 0;
     for (const Cell &cell : row.cells)
         columns += cellColumns(cell);
-    return columns;
+    return row.isNarrow ? (columns * 3 + 3) / 4 : columns;
 }

@@ -23,5 +23,5 @@ struct Run
 /// together, any other by itself with the marks that belong to it.
 std::vector<Run> runsOf(const paper::Row &row, int paperColumns);
 
-/// Columns that the row takes.
+/// Columns of the paper that the row takes.
 int columnsOf(const paper::Row &row);

@@ -10,8 +10,8 @@
 /// One strip, read to its end.
 struct Strip
 {
-    /// A row, what happens behind it, or a remark, which is about the paper and not on it.
-    using Line = std::variant<paper::Row, paper::Event, QString>;
+    /// A row, a picture, what happens behind them, or a remark, which is about the paper and not on it.
+    using Line = std::variant<paper::Row, paper::Picture, paper::Event, QString>;
 
     paper::StripKind kind = paper::StripKind::Paper;
     int columns = 0; ///< of the paper

@@ -15,6 +15,13 @@ namespace {
                            what, QString::number(limit)));
 }
 
+/// The picture that `next` continues; null when it begins one of its own.
+paper::Picture *pictureBefore(std::vector<Strip::Line> &lines, const paper::Picture &next)
+{
+    auto *before = lines.empty() ? nullptr : std::get_if<paper::Picture>(&lines.back());
+    return before && before->left == next.left && before->width == next.width ? before : nullptr;
+}
+
 } // namespace
 
 void StripCollector::beginStrip(paper::StripKind kind)
@@ -30,6 +37,19 @@ void StripCollector::row(const paper::Row &row)
     widest = std::max(widest, columnsOf(row));
     cellCount += qint64(row.cells.size());
     add(row);
+}
+
+/// Joins the pieces of a picture: between two of them a seam would show. Each counts as a row all the same.
+void StripCollector::picture(const paper::Picture &picture)
+{
+    widest = std::max(widest, picture.columns());
+    cellCount += qint64(picture.columns()) * picture.rows();
+    paper::Picture *before = hasRoom() ? pictureBefore(gathered.back().lines, picture) : nullptr;
+    if (!before)
+        return add(picture);
+    ++lineCount;
+    before->dots += picture.dots;
+    before->height += picture.height;
 }
 
 void StripCollector::add(const Strip::Line &line)

@@ -14,6 +14,7 @@ public:
 
     void beginStrip(paper::StripKind kind) override;
     void row(const paper::Row &row) override;
+    void picture(const paper::Picture &picture) override;
     void event(paper::Event event) override { add(event); }
     void remark(const QString &text) override { add(text); }
     void endStrip() override {}

@@ -87,6 +87,42 @@ private Q_SLOTS:
         QVERIFY(isFilled(image, 3, 0, 2, colours::ink));
     }
 
+    void aPictureHasItsDotsWhereThePrinterBurnsThem()
+    {
+        // 24 dots at the left of it are two columns; it is two columns wide and a row high.
+        QByteArray dots;
+        for (int y = 0; y < 24; ++y)
+            dots += y < 12 ? QByteArray::fromHex("FFF000") : QByteArray::fromHex("000FFF");
+        Strip strip = paperStrip(40, {});
+        strip.lines.push_back(paper::Picture{.left = 24, .width = 24, .height = 24, .dots = dots});
+        strip.lines.push_back(plainRow(block));
+        const QImage image = drawn(strip, {.scale = 2});
+        const auto colourAt = [&](int column, int halfRow) {
+            return image.pixelColor(2 * (firstCell.x() + 10 * column + 5),
+                                    2 * (firstCell.y() + 10 * halfRow + 5));
+        };
+        const QColor ink = colours::ink;
+        const QColor paper = colours::paper;
+        QCOMPARE(colourAt(1, 0), paper);
+        QCOMPARE(colourAt(2, 0), ink);
+        QCOMPARE(colourAt(3, 0), paper);
+        QCOMPARE(colourAt(2, 1), paper);
+        QCOMPARE(colourAt(3, 1), ink);
+        QCOMPARE(colourAt(4, 1), paper);
+        QCOMPARE(colourAt(0, 2), ink); // the row below it
+    }
+
+    void fourNarrowCharactersTakeThreeColumns()
+    {
+        Strip strip = paperStrip(3, {});
+        paper::Row row = plainRow(u"     "_s, {.inverse = true});
+        row.isNarrow = true;
+        strip.lines.push_back(row);
+        const QImage image = drawn(strip);
+        QVERIFY(isFilled(image, 0, 0, 3, colours::ink));
+        QCOMPARE(image.pixelColor(firstCell + QPoint(33, 10)), QColor(colours::overInk));
+    }
+
     void boldAndUnderlinedHaveMoreInk()
     {
         const auto ink = [](paper::Style style) {

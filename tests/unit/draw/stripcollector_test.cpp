@@ -58,6 +58,38 @@ private Q_SLOTS:
         QCOMPARE(std::get<QString>(strip.lines[2]), u"The register will show 1.00."_s);
     }
 
+    void piecesOfAPictureAreJoined()
+    {
+        const paper::Picture piece{.left = 0, .width = 8, .height = 2, .dots = "ab"_ba};
+        const paper::Picture besideIt{.left = 8, .width = 8, .height = 1, .dots = "c"_ba};
+        StripCollector collector({40});
+        collector.beginStrip(paper::StripKind::Paper);
+        collector.picture(piece);
+        collector.picture(piece);
+        collector.picture(besideIt);
+        collector.remark(u"and"_s);
+        collector.picture(besideIt);
+        const Strip &strip = collector.strips().front();
+        QCOMPARE(strip.lines.size(), 4U);
+        QCOMPARE(std::get<paper::Picture>(strip.lines[0]).height, 4);
+        QCOMPARE(std::get<paper::Picture>(strip.lines[0]).dots, "abab"_ba);
+        QCOMPARE(std::get<paper::Picture>(strip.lines[1]).dots, "c"_ba);
+        QCOMPARE(std::get<paper::Picture>(strip.lines[3]).dots, "c"_ba);
+    }
+
+    void anEndlessPictureIsTooLarge()
+    {
+        StripCollector collector({40});
+        collector.beginStrip(paper::StripKind::Paper);
+        const paper::Picture piece{.left = 0, .width = 8, .height = 24, .dots = QByteArray(24, 'x')};
+        for (int i = 0; i < 10'000; ++i)
+            collector.picture(piece);
+        QCOMPARE(
+            complaintOf(collector),
+            u"palvestrin: error: there are 10001 rows and strips, and a picture holds at most 10000; use "
+            "\"palvestrin preview --format txt\""_s);
+    }
+
     void asManyRowsAsAPictureHolds()
     {
         StripCollector collector({40});

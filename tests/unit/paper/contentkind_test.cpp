@@ -32,7 +32,8 @@ void ContentKindTest::tellsByContent_data()
     row("blanks first", " \r\n\t<job/>", ContentKind::Job);
 
     row("receipt printer", "\x1b@\x1c.", ContentKind::ReceiptPrinter);
-    row("receipt printer, blanks and zeros first", QByteArray("\0\0  \n\x1d!\1", 8), ContentKind::ReceiptPrinter);
+    row("receipt printer, blanks and zeros first", QByteArray("\0\0  \n\x1d!\1", 8),
+        ContentKind::ReceiptPrinter);
     row("text first", "Caff\x8a\r\n\x1b@", ContentKind::ReceiptPrinter);
     row("another picture", "\x89PNG\r\n\x1a\n\x1b", ContentKind::Neither);
     row("section", "\nj\n\"HELLO\"@\nJ\n", ContentKind::Output);
