@@ -79,6 +79,15 @@ constexpr CodePage pages[] = {
      u"абвгдежзийклмнопрстуфхцчшщъыьэюя"},
 };
 
+constexpr InternationalSet internationalSets[] = {
+    {"USA"_L1, InternationalSet::replaced}, {"France"_L1, u"#$à°ç§^`éùè¨"},
+    {"Germany"_L1, u"#$§ÄÖÜ^`äöüß"},        {"United Kingdom"_L1, u"£$@[\\]^`{|}~"},
+    {"Denmark I"_L1, u"#$@ÆØÅ^`æøå~"},      {"Sweden"_L1, u"#¤ÉÄÖÅÜéäöåü"},
+    {"Italy"_L1, u"#$@°\\é^ùàòèì"},         {"Spain I"_L1, u"₧$@¡Ñ¿^`¨ñ}~"},
+    {"Japan"_L1, u"#$@[¥]^`{|}~"},          {"Norway"_L1, u"#¤ÉÆØÅÜéæøåü"},
+    {"Denmark II"_L1, u"#$ÉÆØÅÜéæøåü"},
+};
+
 } // namespace
 
 std::span<const CodePage> codePages()
@@ -95,6 +104,11 @@ const CodePage *findCodePage(int number)
     return nullptr;
 }
 
+const InternationalSet *findInternationalSet(int number)
+{
+    return number >= 0 && number < int(std::size(internationalSets)) ? &internationalSets[number] : nullptr;
+}
+
 char16_t CodePage::characterOf(unsigned char byte) const
 {
     return byte < firstHigh ? char16_t(byte) : high[byte - firstHigh];
@@ -108,4 +122,10 @@ int CodePage::byteOf(char16_t character) const
         return -1;
     const std::size_t place = high.find(character);
     return place == high.npos ? -1 : int(place) + firstHigh;
+}
+
+char16_t CharacterTable::characterOf(unsigned char byte) const
+{
+    const std::size_t place = InternationalSet::replaced.find(char16_t(byte));
+    return place == InternationalSet::replaced.npos ? page->characterOf(byte) : set->characters[place];
 }

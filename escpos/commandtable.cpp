@@ -32,15 +32,15 @@ constexpr CommandKind kinds[] = {
     {raw("\x1B\x4A"), Shape::Parameters, 1, "feed %1 dots"_L1, none, &Decoder::feedDots},
     {raw("\x1B\x24"), Shape::Parameters, 2, "to a place on the row, in dots"_L1, none, &Decoder::moveTo},
     {raw("\x1B\x5C"), Shape::Parameters, 2, "move along the row, in dots"_L1, none, &Decoder::moveBy},
-    {raw("\x1B\x44"), Shape::UntilZero, 0, "tab stops"_L1, none, nullptr},
+    {raw("\x1B\x44"), Shape::UntilZero, 0, "tab stops"_L1, none, &Decoder::startTabStops},
 
     // The state of the printer.
     {command::initialise, Shape::Parameters, 0, "initialise"_L1, none, &Decoder::initialise},
     {command::leaveChinese, Shape::Parameters, 0, "leave Chinese mode"_L1, none, &Decoder::leaveChinese},
     {raw("\x1C\x26"), Shape::Parameters, 0, "Chinese mode"_L1, none, &Decoder::enterChinese},
     {command::codePage, Shape::Parameters, 1, "code page %1"_L1, none, &Decoder::setCodePage},
-    {command::international, Shape::Parameters, 1, "international characters: %1"_L1,
-     "USA|France|Germany|United Kingdom|Denmark I|Sweden|Italy|Spain I|Japan|Norway|Denmark II"_L1, nullptr},
+    {command::international, Shape::Parameters, 1, "international characters %1"_L1, none,
+     &Decoder::setInternational},
     {command::font, Shape::Parameters, 1, "font %1"_L1, "A|B|C"_L1, &Decoder::setFont},
     {command::size, Shape::Parameters, 1, "size"_L1, none, &Decoder::setSize},
     {raw("\x1B\x21"), Shape::Parameters, 1, "print mode"_L1, none, &Decoder::setPrintMode},
@@ -50,24 +50,39 @@ constexpr CommandKind kinds[] = {
      &Decoder::setUnderlined},
     {raw("\x1D\x42"), Shape::Parameters, 1, "white on black %1"_L1, onOff, &Decoder::setInverse},
     {raw("\x1B\x61"), Shape::Parameters, 1, "justify: %1"_L1, "left|centre|right"_L1, &Decoder::setJustify},
-    {raw("\x1B\x20"), Shape::Parameters, 1, "%1 dots between characters"_L1, none, nullptr},
+    {raw("\x1B\x20"), Shape::Parameters, 1, "%1 dots between characters"_L1, none, &Decoder::tellUnlessOff},
     {raw("\x1B\x32"), Shape::Parameters, 0, "usual row height"_L1, none, nullptr},
     {raw("\x1B\x33"), Shape::Parameters, 1, "row height %1 dots"_L1, none, nullptr},
     {raw("\x1B\x3D"), Shape::Parameters, 1, "choose the device"_L1, none, nullptr},
     {raw("\x1B\x53"), Shape::Parameters, 0, "standard mode"_L1, none, nullptr},
     {raw("\x1B\x56"), Shape::Parameters, 1, "turn characters: %1"_L1, "off|by a quarter|by a quarter"_L1,
-     nullptr},
+     &Decoder::tellUnlessOff},
     {raw("\x1B\x63\x33"), Shape::Parameters, 1, "which paper sensors count"_L1, none, nullptr},
     {raw("\x1B\x63\x34"), Shape::Parameters, 1, "which paper sensors stop it"_L1, none, nullptr},
     {raw("\x1B\x63\x35"), Shape::Parameters, 1, "panel buttons: %1"_L1, "on|off"_L1, nullptr},
-    {raw("\x1B\x72"), Shape::Parameters, 1, "colour: %1"_L1, "black|red"_L1, nullptr},
-    {raw("\x1B\x7B"), Shape::Parameters, 1, "upside down %1"_L1, onOff, nullptr},
+    {raw("\x1B\x72"), Shape::Parameters, 1, "colour: %1"_L1, "black|red"_L1, &Decoder::tellUnlessOff},
+    {raw("\x1B\x7B"), Shape::Parameters, 1, "upside down %1"_L1, onOff, &Decoder::tellUnlessOff},
+    {raw("\x1B\x25"), Shape::Parameters, 1, "characters of one's own %1"_L1, onOff, &Decoder::tellUnlessOff},
+    {raw("\x1B\x3F"), Shape::Parameters, 1, "drop a character of one's own"_L1, none, nullptr},
+    {raw("\x1B\x55"), Shape::Parameters, 1, "print in one direction: %1"_L1, onOff, nullptr},
     {raw("\x1C\x21"), Shape::Parameters, 1, "print mode of Chinese characters"_L1, none, nullptr},
+    {raw("\x1C\x2D"), Shape::Parameters, 1, "underline of Chinese characters"_L1, none, nullptr},
+    {raw("\x1C\x57"), Shape::Parameters, 1, "large Chinese characters %1"_L1, onOff, nullptr},
+    {raw("\x1C\x43"), Shape::Parameters, 1, "encoding of Chinese characters"_L1, none, nullptr},
     {raw("\x1C\x53"), Shape::Parameters, 2, "space around Chinese characters"_L1, none, nullptr},
-    {raw("\x1D\x4C"), Shape::Parameters, 2, "left margin, in dots"_L1, none, nullptr},
-    {raw("\x1D\x50"), Shape::Parameters, 2, "units of motion"_L1, none, nullptr},
-    {raw("\x1D\x57"), Shape::Parameters, 2, "width of the print area, in dots"_L1, none, nullptr},
+    {raw("\x1D\x4C"), Shape::Parameters, 2, "left margin, in dots"_L1, none, &Decoder::setMargin},
+    {raw("\x1D\x50"), Shape::Parameters, 2, "units of motion"_L1, none, &Decoder::tellUnlessOff},
+    {raw("\x1D\x57"), Shape::Parameters, 2, "width of the print area, in dots"_L1, none,
+     &Decoder::setPrintArea},
     {raw("\x1D\x62"), Shape::Parameters, 1, "smoothing %1"_L1, onOff, nullptr},
+
+    // Pages that are put together before they are printed. Their rows are shown in the order of the stream.
+    {raw("\x1B\x4C"), Shape::Parameters, 0, "page mode"_L1, none, &Decoder::tellUnseen},
+    {raw("\x1B\x57"), Shape::Parameters, 8, "area of the page"_L1, none, nullptr},
+    {raw("\x1B\x54"), Shape::Parameters, 1, "direction of the page"_L1, none, nullptr},
+    {raw("\x1D\x24"), Shape::Parameters, 2, "to a place down the page"_L1, none, nullptr},
+    {raw("\x1D\x5C"), Shape::Parameters, 2, "move down the page"_L1, none, nullptr},
+    {raw("\x1B\x0C"), Shape::Parameters, 0, "print the page"_L1, none, &Decoder::endRow},
 
     // What happens between rows.
     {raw("\x1D\x56\x00"), Shape::Parameters, 0, "cut"_L1, none, &Decoder::cut},
@@ -122,6 +137,7 @@ constexpr CommandKind kinds[] = {
     {raw("\x10\x05"), Shape::Parameters, 1, "recover from an error"_L1, none, nullptr},
     {raw("\x1B\x76"), Shape::Parameters, 0, "ask for paper"_L1, none, nullptr},
     {raw("\x1D\x49"), Shape::Parameters, 1, "ask who it is"_L1, none, nullptr},
+    {raw("\x1D\x28\x48"), Shape::Sized, 0, "ask to tell when all this is printed"_L1, none, nullptr},
     {raw("\x1D\x61"), Shape::Parameters, 1, "tell its state from now on"_L1, none, nullptr},
     {raw("\x1D\x72"), Shape::Parameters, 1, "ask for its state %1"_L1, none, nullptr},
 
@@ -159,6 +175,8 @@ QString PrinterCommand::meaning() const
         return u"size: %1 wide, %2 high"_s.arg(first / 16 + 1).arg(first % 16 + 1);
     if (kind->bytes == command::codePage && findCodePage(first))
         return u"code page %1, %2"_s.arg(first).arg(findCodePage(first)->name);
+    if (kind->bytes == command::international && findInternationalSet(first))
+        return u"international characters: %1"_s.arg(findInternationalSet(first)->name);
     if (kind->bytes == command::raster)
         return u"picture, %1 x %2 dots"_s.arg(wideParameter(1) * 8).arg(wideParameter(3));
     return QString(kind->words).replace("%1"_L1, valueName(kind->values, first));

@@ -29,7 +29,7 @@ struct CommandKind
     int parameters; ///< bytes
     /// What it does. "%1" and "%2" stand for the first two parameters.
     QLatin1StringView words;
-    QLatin1StringView values;              ///< names of what the first parameter may be, by "|", from 0 on
+    QLatin1StringView values; ///< names of what the first parameter may be, by "|", from 0 on
     void (Decoder::*run)(const PrinterCommand &); ///< null when nothing of it can be seen on paper
 };
 

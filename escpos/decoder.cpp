@@ -2,8 +2,6 @@
 
 #include "decoder.h"
 
-#include "codepages.h"
-
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,7 +10,8 @@ namespace {
 
 constexpr int fontDots[] = {12, 9, 9}; ///< across a character of font A, B, C
 constexpr int tabColumns = 8;
-constexpr int rowHeight = 24; ///< dots
+constexpr int mostTabStops = 32; ///< that printers keep
+constexpr int rowHeight = 24;    ///< dots
 /// Rows longer than any paper are broken, so that a stream without line ends takes no memory.
 constexpr std::size_t maxCells = 100'000;
 /// Bytes; only data that ends with a zero byte can be longer, and it is never printed whole.
@@ -28,7 +27,7 @@ int value(const PrinterCommand &command)
 } // namespace
 
 Decoder::Decoder(paper::Painter &paperPainter, const Profile &printer, Width rowWidth)
-    : reader(*this), painter(paperPainter), profile(printer), width(rowWidth), page(findCodePage(0))
+    : reader(*this), painter(paperPainter), profile(printer), width(rowWidth)
 {
 }
 
@@ -47,8 +46,9 @@ void Decoder::text(qint64, QByteArrayView bytes)
 {
     for (const char byte : bytes) {
         const auto code = static_cast<unsigned char>(byte);
-        const bool isHalf = isChinese && code >= CodePage::firstHigh; // two such bytes are one Chinese letter
-        const char16_t character = isHalf ? CodePage::noCharacter : page->characterOf(code);
+        const bool isHalf =
+            state.isChinese && code >= CodePage::firstHigh; // two such bytes are one Chinese letter
+        const char16_t character = isHalf ? CodePage::noCharacter : state.characters.characterOf(code);
         put(character, character == CodePage::noCharacter);
     }
 }
@@ -94,19 +94,22 @@ void Decoder::torn(qint64 offset, QByteArrayView bytes)
 void Decoder::put(char32_t character, bool isBroken)
 {
     finishPicture();
-    if (width == Width::OfPaper && rowDots + cellDots() > profile.dots)
+    if (width == Width::OfPaper && rowDots > 0 && rowDots + cellDots() > room())
         finishRow();
     if (row.cells.size() >= maxCells)
         finishRow();
-    row.cells.push_back({character, style, isBroken});
+    row.cells.push_back({character, state.style, isBroken});
+    row.isNarrow = state.font > 0;
     rowDots += cellDots();
 }
 
 void Decoder::putBlanksTo(int dots)
 {
     const int end = std::min(dots, room());
-    while (rowDots + cellDots() <= end)
-        put(U' ', false);
+    const int blank = fontDots[state.font];
+    finishPicture();
+    for (; rowDots + blank <= end; rowDots += blank)
+        row.cells.push_back({}); // plain whatever the style: nothing is printed there
 }
 
 /// Paints the row as it stands now.
@@ -114,10 +117,10 @@ void Decoder::finishRow()
 {
     finishPicture();
     openStrip();
-    const int blanks = indentation(rowDots) / fontDots[font];
+    const int blanks = row.cells.empty() ? 0 : (state.margin + indentation(rowDots)) / fontDots[state.font];
     row.cells.insert(row.cells.begin(), blanks, paper::Cell());
     painter.row(row);
-    row.cells.clear();
+    row = paper::Row();
     rowDots = 0;
 }
 
@@ -138,26 +141,56 @@ void Decoder::remark(const QString &text)
 /// Dots across a character in the current style.
 int Decoder::cellDots() const
 {
-    return fontDots[font] * (style.doubleWidth ? 2 : 1);
+    return fontDots[state.font] * (state.style.doubleWidth ? 2 : 1);
 }
 
-/// Dots across the paper.
+/// Dots across a row of whole characters.
 int Decoder::room() const
 {
-    return profile.dots / fontDots[font] * fontDots[font];
+    const int paper = std::max(0, profile.dots - state.margin);
+    const int area = state.printArea > 0 ? std::min(state.printArea, paper) : paper;
+    return area / fontDots[state.font] * fontDots[state.font];
 }
 
 /// Dots in front of what is `dots` wide.
 int Decoder::indentation(int dots) const
 {
     const int rest = std::max(0, room() - dots);
-    return justify == Justify::Left ? 0 : justify == Justify::Centre ? rest / 2 : rest;
+    return state.justify == Justify::Left ? 0 : state.justify == Justify::Centre ? rest / 2 : rest;
+}
+
+std::vector<int> Decoder::usualTabStops()
+{
+    std::vector<int> stops;
+    for (int stop = 1; stop <= mostTabStops; ++stop)
+        stops.push_back(stop * tabColumns * fontDots[0]);
+    return stops;
 }
 
 void Decoder::tabulate(const PrinterCommand &)
 {
-    const int stop = tabColumns * fontDots[font];
-    putBlanksTo((rowDots / stop + 1) * stop);
+    const auto next = std::upper_bound(state.tabStops.begin(), state.tabStops.end(), rowDots);
+    if (next != state.tabStops.end())
+        putBlanksTo(*next);
+}
+
+void Decoder::startTabStops(const PrinterCommand &)
+{
+    whole = &Decoder::setTabStops;
+}
+
+/// Each byte is a column behind the one before it; the first that is not ends the list, as the zero does.
+void Decoder::setTabStops()
+{
+    state.tabStops.clear();
+    int last = 0;
+    for (const char byte : gathered.first(std::min<qsizetype>(gathered.size(), mostTabStops))) {
+        const int column = static_cast<unsigned char>(byte);
+        if (column <= last)
+            return;
+        state.tabStops.push_back(column * cellDots());
+        last = column;
+    }
 }
 
 void Decoder::endRow(const PrinterCommand &)
@@ -175,7 +208,7 @@ void Decoder::endRow()
 
 void Decoder::dropRow(const PrinterCommand &)
 {
-    row.cells.clear();
+    row = paper::Row();
     rowDots = 0;
 }
 
@@ -216,71 +249,76 @@ void Decoder::initialise(const PrinterCommand &)
     finishPicture();
     if (!row.cells.empty())
         remark(u"a row was begun and not ended: the printer drops it"_s);
-    row.cells.clear();
+    row = paper::Row();
     rowDots = 0;
-    page = findCodePage(0);
-    isChinese = false;
-    style = paper::Style();
-    font = 0;
-    justify = Justify::Left;
+    state = State();
 }
 
 void Decoder::enterChinese(const PrinterCommand &command)
 {
-    isChinese = true;
+    state.isChinese = true;
     remark(u"Chinese mode from byte %1 on: accents are lost in it"_s.arg(command.offset));
 }
 
 void Decoder::leaveChinese(const PrinterCommand &)
 {
-    isChinese = false;
+    state.isChinese = false;
 }
 
 void Decoder::setCodePage(const PrinterCommand &command)
 {
     const CodePage *chosen = findCodePage(command.parameter(0));
     if (chosen)
-        page = chosen;
+        state.characters.page = chosen;
     else
         remark(u"unknown code page %1 at byte %2: letters are shown in %3"_s.arg(command.parameter(0))
                    .arg(command.offset)
-                   .arg(page->name));
+                   .arg(state.characters.page->name));
+}
+
+void Decoder::setInternational(const PrinterCommand &command)
+{
+    const InternationalSet *chosen = findInternationalSet(command.parameter(0));
+    if (chosen)
+        state.characters.set = chosen;
+    else
+        tellUnseen(command);
 }
 
 void Decoder::setFont(const PrinterCommand &command)
 {
-    font = std::min(value(command), int(std::size(fontDots)) - 1);
+    state.font = std::min(value(command), int(std::size(fontDots)) - 1);
 }
 
 void Decoder::setSize(const PrinterCommand &command)
 {
-    style.doubleWidth = command.parameter(0) / 16 > 0;
-    style.doubleHeight = command.parameter(0) % 16 > 0;
+    state.style.doubleWidth = command.parameter(0) / 16 > 0;
+    state.style.doubleHeight = command.parameter(0) % 16 > 0;
 }
 
 void Decoder::setPrintMode(const PrinterCommand &command)
 {
     const int mode = command.parameter(0);
-    font = mode & 0x01;
-    style.bold = mode & 0x08;
-    style.doubleHeight = mode & 0x10;
-    style.doubleWidth = mode & 0x20;
-    style.underlined = mode & 0x80;
+    state.font = mode & 0x01;
+    state.style.bold = mode & 0x08;
+    state.style.doubleHeight = mode & 0x10;
+    state.style.doubleWidth = mode & 0x20;
+    state.style.underlined = mode & 0x80;
 }
 
 void Decoder::setBold(const PrinterCommand &command)
 {
-    style.bold = command.parameter(0) & 1;
+    state.style.bold = command.parameter(0) & 1;
 }
 
 void Decoder::setUnderlined(const PrinterCommand &command)
 {
-    style.underlined = value(command) > 0;
+    state.style.underlined = value(command) > 0;
 }
 
 void Decoder::setInverse(const PrinterCommand &command)
 {
-    style.inverse = command.parameter(0) & 1;
+    state.style.inverse = command.parameter(0) & 1;
 }
 
 void Decoder::setJustify(const PrinterCommand &command)
@@ -290,7 +328,19 @@ void Decoder::setJustify(const PrinterCommand &command)
     finishPicture();
     const int side = value(command);
     if (side <= int(Justify::Right))
-        justify = Justify(side);
+        state.justify = Justify(side);
+}
+
+void Decoder::setMargin(const PrinterCommand &command)
+{
+    if (row.cells.empty()) // told in the middle of a row, it is not obeyed
+        state.margin = std::min(command.wideParameter(0), profile.dots);
+}
+
+void Decoder::setPrintArea(const PrinterCommand &command)
+{
+    if (row.cells.empty())
+        state.printArea = command.wideParameter(0);
 }
 
 void Decoder::cut(const PrinterCommand &)
@@ -311,4 +361,13 @@ void Decoder::openDrawer(const PrinterCommand &)
 void Decoder::tellUnseen(const PrinterCommand &command)
 {
     remark(u"%1 at byte %2 is not shown"_s.arg(hexOf(command.bytes)).arg(command.offset));
+}
+
+/// For what changes the look of all that follows, unless its parameters are zero.
+void Decoder::tellUnlessOff(const PrinterCommand &command)
+{
+    const QByteArrayView parameters = QByteArrayView(command.bytes).sliced(command.kind->bytes.size());
+    if (std::any_of(parameters.begin(), parameters.end(),
+                    [](char byte) { return byte != '\0' && byte != '0'; }))
+        tellUnseen(command);
 }

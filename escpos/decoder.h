@@ -1,5 +1,6 @@
 #pragma once
 
+#include "codepages.h"
 #include "commandreader.h"
 #include "paper.h"
 #include "profiles.h"
@@ -7,8 +8,6 @@
 #include <QByteArray>
 
 #include <vector>
-
-struct CodePage;
 
 /// Shows what a printer prints for a stream of ESC/POS bytes, whoever made them.
 ///
@@ -43,6 +42,7 @@ public:
     void enterChinese(const PrinterCommand &command);
     void leaveChinese(const PrinterCommand &command);
     void setCodePage(const PrinterCommand &command);
+    void setInternational(const PrinterCommand &command);
     void setFont(const PrinterCommand &command);
     void setSize(const PrinterCommand &command);
     void setPrintMode(const PrinterCommand &command);
@@ -50,6 +50,9 @@ public:
     void setUnderlined(const PrinterCommand &command);
     void setInverse(const PrinterCommand &command);
     void setJustify(const PrinterCommand &command);
+    void setMargin(const PrinterCommand &command);
+    void setPrintArea(const PrinterCommand &command);
+    void startTabStops(const PrinterCommand &command);
     void cut(const PrinterCommand &command);
     void openDrawer(const PrinterCommand &command);
     void startRaster(const PrinterCommand &command);
@@ -60,9 +63,24 @@ public:
     void printStoredLogo(const PrinterCommand &command);
     void printUnseenPicture(const PrinterCommand &command);
     void tellUnseen(const PrinterCommand &command);
+    void tellUnlessOff(const PrinterCommand &command);
 
 private:
     enum class Justify { Left, Centre, Right };
+    static std::vector<int> usualTabStops();
+
+    /// What stays as it is from row to row, until the printer is initialised.
+    struct State
+    {
+        CharacterTable characters;
+        bool isChinese = false;
+        paper::Style style;
+        int font = 0;
+        Justify justify = Justify::Left;
+        int margin = 0;                              ///< dots at the left
+        int printArea = 0;                           ///< dots from there on; 0: all that there are
+        std::vector<int> tabStops = usualTabStops(); ///< dots from the margin, rising
+    };
 
     void text(qint64 offset, QByteArrayView bytes) override;
     void command(const PrinterCommand &command) override;
@@ -82,6 +100,7 @@ private:
     int cellDots() const;
     int room() const;
     int indentation(int width) const;
+    void setTabStops();
     void addRaster();
     void addColumns();
     void addGraphics();
@@ -97,17 +116,13 @@ private:
     const Width width;
 
     bool stripIsOpen = false;
-    const CodePage *page;
-    bool isChinese = false;
-    paper::Style style;
-    int font = 0;
-    Justify justify = Justify::Left;
+    State state;
     paper::Row row;                  ///< in the making
     int rowDots = 0;                 ///< what stands in it takes
     paper::Picture picture;          ///< rows of dots that have not been painted yet
     bool pictureEndsWithRow = false; ///< it stands in a row, whose end feeds it
 
-    PrinterCommand current;                    ///< whose data is being read
+    PrinterCommand current;             ///< whose data is being read
     QByteArray gathered;                ///< of its data, as much as is needed
     void (Decoder::*whole)() = nullptr; ///< what to do with it when it is there
     int rasterMode = 0;

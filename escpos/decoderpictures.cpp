@@ -192,7 +192,7 @@ void Decoder::addPictureLine(const QByteArray &line, int dotsAcross)
 {
     if (picture.height == bandHeight || (picture.height > 0 && picture.width != dotsAcross))
         finishPicture();
-    picture.left = indentation(dotsAcross);
+    picture.left = state.margin + indentation(dotsAcross);
     picture.width = dotsAcross;
     picture.dots += line;
     ++picture.height;

@@ -1,6 +1,5 @@
 #include "hexlisting.h"
 
-#include "codepages.h"
 #include "commands.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,7 +11,7 @@ constexpr qsizetype bytesPerLine = 16;
 } // namespace
 
 HexListing::HexListing(std::function<void(const QString &)> lineTaker)
-    : reader(*this), takeLine(std::move(lineTaker)), page(findCodePage(0))
+    : reader(*this), takeLine(std::move(lineTaker))
 {
 }
 
@@ -36,11 +35,19 @@ void HexListing::command(const PrinterCommand &command)
 {
     finish();
     list(command.offset, command.bytes, command.meaning());
-    const CodePage *chosen = command.kind->bytes == command::codePage     ? findCodePage(command.parameter(0))
-                             : command.kind->bytes == command::initialise ? findCodePage(0)
-                                                                          : nullptr;
-    if (chosen)
-        page = chosen;
+    follow(command);
+}
+
+/// Keeps to the characters that the printer prints from here on.
+void HexListing::follow(const PrinterCommand &command)
+{
+    const int number = command.parameter(0);
+    if (command.kind->bytes == command::initialise)
+        characters = CharacterTable();
+    else if (command.kind->bytes == command::codePage && findCodePage(number))
+        characters.page = findCodePage(number);
+    else if (command.kind->bytes == command::international && findInternationalSet(number))
+        characters.set = findInternationalSet(number);
 }
 
 void HexListing::endOfCommand()
@@ -101,6 +108,6 @@ QString HexListing::quoted(QByteArrayView bytes) const
 {
     QString text;
     for (const char byte : bytes)
-        text += QChar(page->characterOf(static_cast<unsigned char>(byte)));
+        text += QChar(characters.characterOf(static_cast<unsigned char>(byte)));
     return u'"' + text + u'"';
 }

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "codepages.h"
 #include "commandreader.h"
 
 #include <QByteArray>
 
 #include <functional>
-
-struct CodePage;
 
 /// Lists a stream of ESC/POS bytes, a line for each command and each piece of text: where it stands, its
 /// bytes, what it means.
@@ -37,13 +36,14 @@ private:
     void torn(qint64 offset, QByteArrayView bytes) override;
 
     void collect(Collected kind, qint64 offset, QByteArrayView bytes);
+    void follow(const PrinterCommand &command);
     void finish();
     void list(qint64 offset, QByteArrayView bytes, const QString &meaning);
     QString quoted(QByteArrayView bytes) const;
 
     CommandReader reader;
     std::function<void(const QString &)> takeLine;
-    const CodePage *page;
+    CharacterTable characters;
     qint64 listed = 0; ///< bytes that lines have been made of
     Collected collected = Collected::Nothing;
     qint64 collectedOffset = 0;

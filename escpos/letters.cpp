@@ -54,6 +54,15 @@ void LostCharacters::add(char32_t character)
         ++others;
 }
 
+Letters::Letters(const Profile &profile) : codePages(profile.codePages)
+{
+    for (std::size_t i = 0; i < codePages.size(); ++i) {
+        for (const char16_t character : findCodePage(codePages[i])->high)
+            pages[character] |= 1U << i;
+    }
+    pages.remove(CodePage::noCharacter);
+}
+
 QString Letters::printable(const QString &text, LostCharacters &lost) const
 {
     if (std::all_of(text.begin(), text.end(), isPlain))
@@ -102,14 +111,7 @@ QString Letters::transliterated(char32_t character) const
 /// A bit for each place in the profile's list of pages.
 unsigned Letters::pagesWith(char16_t character) const
 {
-    if (isPlain(character))
-        return everyPage;
-    unsigned pages = 0;
-    for (std::size_t i = 0; i < codePages.size(); ++i) {
-        if (findCodePage(codePages[i])->byteOf(character) >= 0)
-            pages |= 1U << i;
-    }
-    return pages;
+    return isPlain(character) ? everyPage : pages.value(character);
 }
 
 std::vector<Letters::Letter> Letters::spell(QStringView row, int current) const
@@ -122,24 +124,24 @@ std::vector<Letters::Letter> Letters::spell(QStringView row, int current) const
     letters.reserve(row.size());
     qsizetype start = 0;
     for (qsizetype i = 0; i < row.size(); ++i) {
-        const unsigned pages = pagesWith(row[i].unicode());
-        if (!(possible & pages)) {
+        const unsigned having = pagesWith(row[i].unicode());
+        if (!(possible & having)) {
             append(letters, row.sliced(start, i - start), possible);
             start = i;
             possible = everyPage;
         }
-        possible &= pages;
+        possible &= having;
     }
     append(letters, row.sliced(start), possible);
     return letters;
 }
 
-/// A run of letters that all stand in each of `pages`.
-void Letters::append(std::vector<Letter> &letters, QStringView run, unsigned pages) const
+/// A run of letters that all stand in each of the `possible` pages.
+void Letters::append(std::vector<Letter> &letters, QStringView run, unsigned possible) const
 {
     if (run.isEmpty())
         return;
-    const CodePage &page = *findCodePage(codePages[std::countr_zero(pages)]);
+    const CodePage &page = *findCodePage(codePages[std::countr_zero(possible)]);
     for (const QChar character : run)
         letters.push_back({page.number, char(page.byteOf(character.unicode()))});
 }

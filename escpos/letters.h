@@ -2,6 +2,7 @@
 
 #include "profiles.h"
 
+#include <QHash>
 #include <QMap>
 #include <QString>
 
@@ -34,7 +35,7 @@ public:
         bool operator==(const Letter &) const = default;
     };
 
-    explicit Letters(const Profile &profile) : codePages(profile.codePages) {}
+    explicit Letters(const Profile &profile);
 
     /// What is printed for `text`: characters of the printer's code pages, one to a column. Control
     /// characters are taken out, here and nowhere else: no text commands the printer. A character that no
@@ -50,7 +51,8 @@ private:
     QString formOf(char32_t character, LostCharacters &lost) const;
     QString transliterated(char32_t character) const;
     unsigned pagesWith(char16_t character) const;
-    void append(std::vector<Letter> &letters, QStringView run, unsigned pages) const;
+    void append(std::vector<Letter> &letters, QStringView run, unsigned possible) const;
 
     std::span<const int> codePages;
+    QHash<char16_t, unsigned> pages; ///< that have a character beyond ASCII: a bit for each of `codePages`
 };

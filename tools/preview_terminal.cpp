@@ -12,13 +12,34 @@
 
 namespace {
 
+/// Looks for a narrow row. A terminal has one font, so the paper is as wide as its longest rows may be.
+class NarrowRows : public paper::Painter
+{
+public:
+    void beginStrip(paper::StripKind) override {}
+    void row(const paper::Row &row) override { areThere = areThere || row.isNarrow; }
+    void event(paper::Event) override {}
+    void remark(const QString &) override {}
+    void endStrip() override {}
+
+    bool areThere = false;
+};
+
+int columnsOfReceipts(FinishedOutput &output, const Preview &preview)
+{
+    NarrowRows rows;
+    readOutput(output, preview, rows, [](const paper::Fault &) {});
+    const int columns = preview.profile->columns;
+    return rows.areThere ? paper::narrowColumns(columns) : columns;
+}
+
 /// How wide the paper of each section is.
 std::vector<int> widthsOf(FinishedOutput &output, const PaperWidths &configured, const Preview &preview)
 {
     if (preview.columns > 0)
         return {preview.columns};
     if (output.isForReceiptPrinter())
-        return {preview.profile->columns};
+        return {columnsOfReceipts(output, preview)};
     if (QFile *job = output.job())
         return configured.ofJob(*job);
     paper::StripWidths ruled(configured.widest());
@@ -37,8 +58,7 @@ void showAll(const Preview &preview, std::ostream &out, FaultList &faults)
             painter.title(paper::visible(file.shown()));
         painter.setWidths(widthsOf(output, configured, preview));
         readOutput(
-            output, preview, painter,
-            [&](const paper::Fault &fault) { faults.add(output.name(), fault); },
+            output, preview, painter, [&](const paper::Fault &fault) { faults.add(output.name(), fault); },
             [&out] { return bool(out); });
     }
 }

@@ -86,13 +86,18 @@ private Q_SLOTS:
             document.contains("```text\n" + contentOf(folder.filePath(u"receipt/expected.hex"_s)) + "```\n"));
     }
 
-    void theDocumentNamesEveryProfile()
+    void documentAndManualNameEveryProfile()
     {
         const QString document = QString::fromUtf8(contentOf(QStringLiteral(DOCUMENT)));
+        const QByteArray manuals[] = {contentOf(QStringLiteral(MANUAL_FOLDER "/palvestrin-render.1")),
+                                      contentOf(QStringLiteral(MANUAL_FOLDER "/palvestrin-preview.1"))};
         for (const Profile &profile : profiles) {
             const QString narrow = profile.narrowColumns ? u", %1"_s.arg(profile.narrowColumns) : QString();
             const QString row = u"\n| `%1` | %2%3 |"_s.arg(profile.name).arg(profile.columns).arg(narrow);
             QVERIFY2(document.contains(row), qPrintable(row));
+            for (const QByteArray &manual : manuals)
+                QVERIFY2(manual.contains(QByteArray(profile.name.data()).replace('-', "\\-")),
+                         profile.name.data());
         }
     }
 };

@@ -17,7 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int randomJobs = 1000;
+constexpr int randomJobs = 2000;
 
 /// The methods that a receipt printer prints.
 QStringList methods()
@@ -227,6 +227,21 @@ private Q_SLOTS:
         const QByteArray sold = contentOf(QStringLiteral(EXAMPLES_FOLDER "/jobs/printSold.xml"));
         home.configure("palvestrin: { prefiscaldoc: { copyNumber = 2; }; solddoc: { copyNumber = 5; }; };");
         verifyRoundTrip(sold, "copies of a list");
+    }
+
+    void aLogoComesBackDotForDot()
+    {
+        QByteArray dots;
+        for (int y = 0; y < 20; ++y)
+            dots += QByteArray(1, char(y)) + QByteArray(1, char(~y));
+        writeFile(home.filePath(u"logo.pbm"_s), "P4 16 20 " + dots);
+        home.configure("palvestrin: { escpos: { logo = \"" + home.filePath(u"logo.pbm"_s).toUtf8() +
+                       "\"; }; receiptdoc: { printLogo = true; }; };");
+        const QByteArray job = "<job><method name=\"printFullOrderReceipt\"/><logo/></job>";
+        for (const Profile &profile : profiles) {
+            const PaperRecord record = recorded(rendered(job, profile), profile);
+            QCOMPARE(record.lastPicture.dots, profile.pictures ? dots : QByteArray());
+        }
     }
 
     void rowsAreThoseOfTheLinePrinter()

@@ -102,6 +102,8 @@ public:
             const int blanks = (paperWidth - columns) / 2 / (style.doubleWidth ? 2 : 1);
             row.cells.insert(row.cells.begin(), blanks, {U' ', style, false});
         }
+        row.isNarrow =
+            !row.cells.empty() && paperWidth > profile.columns && paperWidth <= profile.narrowColumns;
         paper.row(row);
         rows += style.doubleHeight ? 2 : 1;
         row = {};

@@ -6,7 +6,8 @@
 
 /// What a reader showed, a line each, so that a test can tell what it expects of a paper:
 ///
-///     |plain *bold*|                a row; in front of each change of style stands its name, see below
+///     |plain <b>bold|               a row; in front of each change of style stands its name, see below
+///     narrow |plain|                a row in the narrow font
 ///     picture 16 x 24 at 0
 ///     -- cut                        an event
 ///     ! unknown command ...         a remark
@@ -27,7 +28,7 @@ public:
     }
     void row(const paper::Row &row) override
     {
-        QString text = QStringLiteral("|");
+        QString text = row.isNarrow ? QStringLiteral("narrow |") : QStringLiteral("|");
         QString plain;
         paper::Style style;
         for (const paper::Cell &cell : row.cells) {

@@ -76,6 +76,18 @@ private Q_SLOTS:
         QCOMPARE(findCodePage(0)->byteOf(CodePage::noCharacter), -1);
     }
 
+    void internationalSetsReplaceTwelveCharacters()
+    {
+        for (int number = 0; number <= 10; ++number)
+            QCOMPARE(findInternationalSet(number)->characters.size(), std::size_t(12));
+        QVERIFY(!findInternationalSet(11) && !findInternationalSet(-1));
+        const CharacterTable german{.page = findCodePage(16), .set = findInternationalSet(2)};
+        QCOMPARE(german.characterOf('['), u'Ä');
+        QCOMPARE(german.characterOf('~'), u'ß');
+        QCOMPARE(german.characterOf('A'), u'A');
+        QCOMPARE(german.characterOf(0x80), u'€');
+    }
+
     void unknownNumbersHaveNoPage() { QVERIFY(!findCodePage(1)); }
 
     void profilesNamePagesThatExist()

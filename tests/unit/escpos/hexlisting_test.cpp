@@ -46,6 +46,19 @@ private Q_SLOTS:
         QCOMPARE(listed(bytes, 1), listed(bytes));
     }
 
+    void textIsWhatThePrinterPrints()
+    {
+        const QStringList expected = {
+            u"00000000  1B 52 02                                         international characters: Germany"_s,
+            u"00000003  7B                                               \"ä\""_s,
+            u"00000004  1B 52 63                                         international characters 99"_s,
+            u"00000007  7B                                               \"ä\""_s,
+            u"00000008  1B 40                                            initialise"_s,
+            u"0000000A  7B                                               \"{\""_s,
+        };
+        QCOMPARE(listed(escpos("1B5202 '{' 1B5263 '{' 1B40 '{'")).join(u'\n'), expected.join(u'\n'));
+    }
+
     void dataStandsBehindItsCommand()
     {
         const QStringList expected = {
