@@ -59,8 +59,9 @@ struct DocumentSetting
     QLatin1StringView name;
     ValueKind kind;
     QLatin1StringView meaning;
-    /// Where it is kept. One that is kept nowhere stands in configurations and no print method asks for it.
+    /// Where it is kept. One that is kept nowhere is asked for by its key, if at all.
     std::variant<std::monostate, CountMember, FlagMember> member = {};
+    QLatin1StringView readBy = "printing"_L1; ///< the part of the system that reads it
 };
 
 /// To add a setting, add a member above and its row here.
@@ -74,12 +75,12 @@ inline constexpr DocumentSetting documentSettings[] = {
      &DocumentSettings::totalPriceFieldWidth},
     {"paperWidth"_L1, ValueKind::Width, "characters of a line"_L1, &DocumentSettings::paperWidth},
     {"paperRows"_L1, ValueKind::Count, "rows of a page; a receipt printer fills up the last one"_L1,
-     &DocumentSettings::paperRows},
+     &DocumentSettings::paperRows, "receipt printer"_L1},
     {"style"_L1, ValueKind::Text, "no effect: each document has its own layout"_L1},
     {"printGeometry"_L1, ValueKind::Flag, "print the top margin"_L1, &DocumentSettings::printGeometry},
     {"printHeader"_L1, ValueKind::Flag, "print the free header lines"_L1, &DocumentSettings::printHeader},
-    {"printLogo"_L1, ValueKind::Flag, "print the logo, on a receipt printer"_L1,
-     &DocumentSettings::printLogo},
+    {"printLogo"_L1, ValueKind::Flag, "print the logo, on a receipt printer"_L1, &DocumentSettings::printLogo,
+     "receipt printer"_L1},
     {"printCompany"_L1, ValueKind::Flag, "print the company's lines"_L1, &DocumentSettings::printCompany},
     {"printDeliveryAddress"_L1, ValueKind::Flag, "print the delivery address, with printCustomer"_L1,
      &DocumentSettings::printDeliveryAddress},
@@ -100,12 +101,16 @@ inline constexpr DocumentSetting documentSettings[] = {
     {"printNote"_L1, ValueKind::Flag, "print the order's note"_L1, &DocumentSettings::printNote},
     {"openCashDrawer"_L1, ValueKind::Flag,
      "open the drawer of a receipt printer, once before the first receipt"_L1,
-     &DocumentSettings::openCashDrawer},
+     &DocumentSettings::openCashDrawer, "receipt printer"_L1},
     {"topMargin"_L1, ValueKind::Count, "empty lines on top, with printGeometry"_L1,
      &DocumentSettings::topMargin},
     {"descriptionWidth"_L1, ValueKind::Width, "characters of an item's name that go to the register"_L1,
      &DocumentSettings::descriptionWidth},
-    {copyNumberSetting, ValueKind::Text, "number of copies that a receipt printer prints, 99 at most"_L1},
+    {copyNumberSetting,
+     ValueKind::Text,
+     "number of copies that a receipt printer prints, 99 at most"_L1,
+     {},
+     "receipt printer, copy number"_L1},
 };
 
 } // namespace vocabulary

@@ -31,9 +31,8 @@ QStringList methodsOf(const DocumentKind &kind, const DocumentSetting &setting)
 
 Key documentKey(const DocumentKind &kind, const DocumentSetting &setting)
 {
-    const QString readBy = setting.name == vocabulary::copyNumberSetting ? u"copy number"_s : u"printing"_s;
-    return {kind.path() + setting.name, setting.kind, setting.meaning, whenMissing(setting.kind),
-            methodsOf(kind, setting),   readBy};
+    return {kind.path() + setting.name, setting.kind,  setting.meaning, whenMissing(setting.kind),
+            methodsOf(kind, setting),   setting.readBy};
 }
 
 std::vector<Key> expandedTables()

@@ -43,6 +43,15 @@ QString titleAndName(const vocabulary::PrintMethod &method)
     return u"%1 (%2)"_s.arg(method.title, method.name);
 }
 
+/// Who asks for a setting, each print method as `quote` and the name and `quote`.
+QString readersOf(const vocabulary::DocumentSetting &setting, const QString &quote)
+{
+    const QStringList methods = knownkeys::methodsUsing(setting);
+    if (!methods.isEmpty())
+        return quote + methods.join(quote + ", "_L1 + quote) + quote;
+    return setting.readBy == "printing"_L1 ? u"no print method"_s : QString(setting.readBy);
+}
+
 QString applicationKeysTable()
 {
     QString table = tableHead({u"Key"_s, u"Meaning"_s, u"When missing"_s, u"Read by"_s});
@@ -64,9 +73,8 @@ QString documentSettingsTable()
 {
     QString table = tableHead({u"Setting"_s, u"Meaning"_s, u"When missing"_s, u"Consulted by"_s});
     for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings) {
-        const QStringList methods = knownkeys::methodsUsing(setting);
         table += tableRow({code(setting.name), setting.meaning, knownkeys::whenMissing(setting.kind),
-                           methods.isEmpty() ? u"no print method"_s : u'`' + methods.join("`, `"_L1) + u'`'});
+                           readersOf(setting, u"`"_s)});
     }
     return table;
 }
@@ -100,8 +108,9 @@ QString applicationKeysChapter()
 {
     QString chapter = u".SH SETTINGS OF THE APPLICATION\n"_s;
     for (const vocabulary::ApplicationKey &key : vocabulary::applicationKeys) {
-        chapter += manualEntry(key.name, valueInManual(key.kind),
-                               u"%1; when missing: %2. Read by: %3."_s.arg(key.meaning, key.whenMissing, key.readBy));
+        chapter += manualEntry(
+            key.name, valueInManual(key.kind),
+            u"%1; when missing: %2. Read by: %3."_s.arg(key.meaning, key.whenMissing, key.readBy));
     }
     return chapter;
 }
@@ -120,11 +129,10 @@ QString documentSettingsChapter()
 {
     QString chapter = u".SH SETTINGS OF A DOCUMENT\n"_s;
     for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings) {
-        const QString methods = knownkeys::methodsUsing(setting).join(", "_L1);
-        chapter += manualEntry(setting.name, valueInManual(setting.kind),
-                               u"%1; when missing: %2. Consulted by: %3."_s.arg(
-                                   setting.meaning, knownkeys::whenMissing(setting.kind),
-                                   methods.isEmpty() ? u"no print method"_s : methods));
+        chapter +=
+            manualEntry(setting.name, valueInManual(setting.kind),
+                        u"%1; when missing: %2. Consulted by: %3."_s.arg(
+                            setting.meaning, knownkeys::whenMissing(setting.kind), readersOf(setting, {})));
     }
     return chapter;
 }

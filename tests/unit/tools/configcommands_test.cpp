@@ -250,7 +250,7 @@ private Q_SLOTS:
                  "    consulted by: printFullOrderReceipt, printAbstractOrderReceipt\n"
                  "palvestrin.receiptdoc.paperRows is not set, counts as 0\n"
                  "    rows of a page; a receipt printer fills up the last one; when missing: 0\n"
-                 "    consulted by no print method\n"
+                 "    read by: receipt printer\n"
                  "palvestrin.receiptdoc.papreRows = 3\n"
                  "    no program reads this; did you mean palvestrin.receiptdoc.paperRows?\n");
     }

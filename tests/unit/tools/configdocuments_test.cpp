@@ -88,7 +88,7 @@ private Q_SLOTS:
             "`printPartialOrder`, `printFullOrder`, `printFullOrderReceipt`, "
             "`printFullOrderInvoice`, `printFullOrderDelivery`, `printAbstractOrderInvoice` |\n"_s));
         QVERIFY(tables.contains(
-            u"\n| `paperRows` | rows of a page; a receipt printer fills up the last one | 0 | no print method |\n"_s));
+            u"\n| `paperRows` | rows of a page; a receipt printer fills up the last one | 0 | receipt printer |\n"_s));
     }
 
     void settingsAsTheManualTellsThem()
@@ -111,7 +111,8 @@ private Q_SLOTS:
         QVERIFY(chapters.contains(
             u"\n.TP\n"
             ".BI paperRows \" = NUMBER\"\n"
-            "rows of a page; no effect; when missing: 0. Consulted by: no print method.\n"_s));
+            "rows of a page; a receipt printer fills up the last one; when missing: 0. Consulted by: receipt "
+            "printer.\n"_s));
     }
 
     void theExampleOfTheGrammarIsReadAndWrittenAsItStands()
