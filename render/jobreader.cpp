@@ -140,7 +140,8 @@ bool JobHandler::internalEntityDecl(const QString &, const QString &value)
 {
     if (source.addEntity(value))
         return true;
-    limit = u"more than %1 entities, or parentheses nested deeper than %2 in one"_s.arg(maxEntities).arg(maxNesting);
+    limit = u"more than %1 entities, or parentheses nested deeper than %2 in one"_s.arg(maxEntities)
+                .arg(maxNesting);
     return false;
 }
 

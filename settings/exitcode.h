@@ -29,16 +29,20 @@ inline constexpr std::array exitCodeMeanings{
     ExitCodeMeaning{ExitCode::Done, QLatin1StringView("What was asked for is done.")},
     ExitCodeMeaning{ExitCode::NotSet, QLatin1StringView("The key is not set in the file.")},
     ExitCodeMeaning{ExitCode::WrongUsage, QLatin1StringView("The command line is wrong.")},
-    ExitCodeMeaning{ExitCode::Refused,
-                    QLatin1StringView("The key is unknown, or the value cannot be stored under it.")},
+    ExitCodeMeaning{
+        ExitCode::Refused,
+        QLatin1StringView("The key is unknown, the value cannot be stored under it, or a job asks for "
+                          "what cannot be printed.")},
     ExitCodeMeaning{ExitCode::Unreadable,
                     QLatin1StringView("A file cannot be read, or is not of the kind that is wanted.")},
     ExitCodeMeaning{ExitCode::WouldLose,
                     QLatin1StringView("Writing would lose something of the file; nothing was done.")},
     ExitCodeMeaning{ExitCode::Busy,
                     QLatin1StringView("Another program is writing the file; nothing was done.")},
-    ExitCodeMeaning{ExitCode::WriteFailed,
-                    QLatin1StringView("The result cannot be written; the old file stays.")},
+    ExitCodeMeaning{
+        ExitCode::WriteFailed,
+        QLatin1StringView("The result cannot be written; the old file stays, unless a printer's output "
+                          "was to replace it.")},
     ExitCodeMeaning{
         ExitCode::NotInstalled,
         QLatin1StringView("A part of the house is not installed; the message names its package.")},

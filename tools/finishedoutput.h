@@ -9,8 +9,8 @@
 /// How jobs are rendered.
 struct Rendering
 {
-    FileName configuration; ///< an empty name means the user's
-    QByteArray locale;      ///< in which the renderer runs; "" means that of the environment
+    FileName configuration;  ///< an empty name means the user's
+    QByteArray locale;       ///< in which the renderer runs; "" means that of the environment
     QByteArray profile = {}; ///< of the receipt printer; "" means the line printer
 };
 

@@ -17,11 +17,13 @@ void readOutput(FinishedOutput &output, const Preview &preview, paper::Painter &
 {
     if (output.isForReceiptPrinter()) {
         Decoder decoder(painter, *preview.profile, Decoder::Width::OfPaper);
-        readBytes(output, [&](QByteArrayView bytes) { decoder.take(bytes); }, goesOn);
+        readBytes(
+            output, [&](QByteArrayView bytes) { decoder.take(bytes); }, goesOn);
         decoder.end();
     } else {
         paper::StreamReader reader(preview.encoding(), painter, onFault);
-        readBytes(output, [&](QByteArrayView bytes) { reader.read(bytes); }, goesOn);
+        readBytes(
+            output, [&](QByteArrayView bytes) { reader.read(bytes); }, goesOn);
         reader.finish();
     }
 }

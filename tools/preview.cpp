@@ -2,7 +2,6 @@
 
 #include "commanderror.h"
 #include "commandline.h"
-#include "configfile.h"
 #include "faultlist.h"
 #include "localeencoding.h"
 #include "printerchoice.h"
@@ -11,7 +10,6 @@
 
 #include <algorithm>
 #include <iostream>
-#include <locale.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,12 +17,11 @@ namespace {
 
 constexpr Argument formatArgument{"txt|png|pdf|svg"_L1};
 constexpr Argument numberArgument{"N"_L1};
-constexpr Argument localeArgument{"NAME"_L1};
 constexpr Argument outputArgument{"OUT"_L1, offerFiles};
 
 constexpr Option options[] = {
-    {"config"_L1, "Render jobs with this configuration instead of the user's."_L1, &fileArgument},
-    {"locale"_L1, "The printer's language and encoding, such as it_IT.ISO-8859-15."_L1, &localeArgument},
+    configurationOption,
+    localeOption,
     {.name = "output"_L1,
      .meaning = "Write this file, - for standard output; its ending tells the format."_L1,
      .argument = &outputArgument,
@@ -94,36 +91,6 @@ int chosenColumns(const CommandLine &line)
     return columns;
 }
 
-FileName chosenConfiguration(const CommandLine &line)
-{
-    const FileName path = line.file(u"config");
-    if (path.isEmpty())
-        return path;
-    const ConfigFile file(path); // which throws when it cannot be read
-    if (!file.exists())
-        throw CommandError(ExitCode::Unreadable, path, u"there is no such file"_s);
-    if (file.type() == form::xml) {
-        throw CommandError(ExitCode::Unreadable, path,
-                           u"the renderer reads a configuration as text, and this is XML"_s);
-    }
-    return path;
-}
-
-/// The renderer would take a locale that is not there for one in UTF-8, without a word.
-QByteArray chosenLocale(const CommandLine &line)
-{
-    if (!line.has(u"locale"))
-        return {};
-    const QByteArray name = line.value(u"locale").toUtf8();
-    const locale_t locale = newlocale(LC_ALL_MASK, name.constData(), nullptr);
-    if (!locale) {
-        refuse(u"the locale \"%1\" is not installed here; \"locale -a\" lists those that are"_s.arg(
-            line.value(u"locale")));
-    }
-    freelocale(locale);
-    return name;
-}
-
 /// Options that mean nothing for the form that was chosen.
 void refuseIdleOptions(const Preview &preview)
 {
@@ -167,7 +134,8 @@ Preview previewFrom(const CommandLine &line)
     refuseToOverwriteInput(preview);
     refuseUnreadableOnTerminal(preview);
     preview.hex = line.has(u"hex");
-    if (preview.hex && (preview.marks || preview.columns > 0 || (preview.format && preview.format->isPicture)))
+    if (preview.hex &&
+        (preview.marks || preview.columns > 0 || (preview.format && preview.format->isPicture)))
         refuse(u"--hex lists bytes as text; leave out --marks, --columns and pictures"_s);
     preview.profile = &chosenProfile(line);
     preview.rendering = {chosenConfiguration(line), chosenLocale(line),

@@ -15,10 +15,12 @@ void listAll(const Preview &preview, std::ostream &out)
     for (const FileName &file : preview.files) {
         FinishedOutput output(file, preview.rendering);
         if (!output.isForReceiptPrinter())
-            throw CommandError(ExitCode::WrongUsage, file,
-                               u"--hex lists what goes to a receipt printer; for a job, add --device escpos"_s);
+            throw CommandError(
+                ExitCode::WrongUsage, file,
+                u"--hex lists what goes to a receipt printer; for a job, add --device escpos"_s);
         HexListing listing([&out](const QString &line) { out << line.toStdString() << '\n'; });
-        readBytes(output, [&](QByteArrayView bytes) { listing.take(bytes); }, [&out] { return bool(out); });
+        readBytes(
+            output, [&](QByteArrayView bytes) { listing.take(bytes); }, [&out] { return bool(out); });
         listing.end();
     }
 }

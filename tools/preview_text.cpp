@@ -14,8 +14,7 @@ void writeAll(const Preview &preview, std::ostream &out, FaultList &faults)
     for (const FileName &file : preview.files) {
         FinishedOutput output(file, preview.rendering);
         readOutput(
-            output, preview, painter,
-            [&](const paper::Fault &fault) { faults.add(output.name(), fault); },
+            output, preview, painter, [&](const paper::Fault &fault) { faults.add(output.name(), fault); },
             [&out] { return bool(out); });
     }
 }

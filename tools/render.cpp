@@ -1,4 +1,3 @@
-#include "printerchoice.h"
 #include "render.h"
 
 #include "applicationkeys.h"
@@ -12,6 +11,7 @@
 #include "hlogmanager.h"
 #include "jobreader.h"
 #include "logger.h"
+#include "printerchoice.h"
 #include "pvconfiguration.h"
 
 #include <QCoreApplication>
@@ -23,16 +23,13 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <iostream>
-#include <locale.h>
 #include <optional>
-#include <sstream>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr Argument jobArgument{.name = "JOB"_L1, .offers = offerFiles};
-constexpr Argument localeArgument{.name = "LOCALE"_L1};
 constexpr Operand operands[] = {{&jobArgument}};
 constexpr Option options[] = {
     {.name = "output"_L1,
@@ -42,25 +39,20 @@ constexpr Option options[] = {
      .letter = 'o'},
     deviceOption,
     profileOption,
-    {.name = "config"_L1,
-     .meaning = "Use this configuration instead of the user's."_L1,
-     .argument = &fileArgument},
-    {.name = "locale"_L1,
-     .meaning = "Labels and encoding, such as it_IT.ISO-8859-15."_L1,
-     .argument = &localeArgument},
+    configurationOption,
+    localeOption,
 };
 
 /// The renderer tells its one program on standard output what goes wrong. People get it as an error.
 class QuietRenderer
 {
 public:
-    QuietRenderer() : saved(std::cout.rdbuf(swallowed.rdbuf())) {}
+    QuietRenderer() : saved(std::cout.rdbuf(nullptr)) {}
     ~QuietRenderer() { std::cout.rdbuf(saved); }
     QuietRenderer(const QuietRenderer &) = delete;
     QuietRenderer &operator=(const QuietRenderer &) = delete;
 
 private:
-    std::ostringstream swallowed;
     std::streambuf *saved;
 };
 
@@ -94,21 +86,6 @@ private:
     const bool isChanged;
 };
 
-/// The renderer would take a locale that is not there for one in UTF-8, without a word.
-QByteArray chosenLocale(const CommandLine &line)
-{
-    const QByteArray name = line.value(u"locale").toUtf8();
-    if (name.isEmpty())
-        return name;
-    const locale_t locale = newlocale(LC_ALL_MASK, name.constData(), nullptr);
-    if (!locale)
-        throw CommandError(ExitCode::WrongUsage,
-                           u"the locale \"%1\" is not installed; \"locale -a\" lists those that are"_s.arg(
-                               line.value(u"locale")));
-    freelocale(locale);
-    return name;
-}
-
 void readConfiguration(const FileName &path)
 {
     PVConfiguration &configuration = *SyncSingleton<PVConfiguration>::instance();
@@ -121,8 +98,7 @@ void requireOtherFile(const FileName &output, const FileName &input)
 {
     std::error_code unknown; // of files that are not there, which are not the same
     if (std::filesystem::equivalent(output.path(), input.path(), unknown))
-        throw CommandError(ExitCode::WrongUsage, input,
-                           u"it would be overwritten before it is read; name another output"_s);
+        throw CommandError(ExitCode::WouldLose, output, u"this is one of the files to read; name another"_s);
 }
 
 void openJob(QFile &job, const FileName &path)
@@ -223,7 +199,7 @@ void printAsAsked(const CommandLine &line, Task &task, std::optional<PrinterLoca
 ExitCode run(const CommandLine &line)
 {
     Task task{.path = line.fileArgument(0), .output = line.file(u"output")};
-    const FileName configuration = line.file(u"config");
+    const FileName configuration = chosenConfiguration(line);
     requireSensible(line);
     std::optional<PrinterLocale> locale(chosenLocale(line));
     requireOtherFile(task.output, task.path);

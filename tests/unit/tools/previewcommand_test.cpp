@@ -1,9 +1,9 @@
+#include "madelocale.h"
 #include "program.h"
 #include "scratchfolder.h"
 #include "temporaryhome.h"
 
 #include <QFileInfo>
-#include <QProcess>
 #include <QTest>
 
 #include <fcntl.h>
@@ -20,10 +20,6 @@ const QString program = QStringLiteral(PALVESTRIN_PROGRAM);
 constexpr char receipt[] = R"(<?xml version="1.0" encoding="UTF-8"?>
 <job><method name="printFullOrderReceipt"/><receipt serialnumber="7"/><notPaid price="caffè 5 €"/></job>)";
 constexpr char configuration[] = "palvestrin: { receiptdoc: { paperWidth = 36; }; };";
-
-/// newlocale() of the C library forgets the folders that it reads in LOCPATH, so the sanitizers' build must
-/// not look for leaks here. Other builds do not know the variable.
-const QString withoutLeakCheck = u"ASAN_OPTIONS=detect_leaks=0"_s;
 
 } // namespace
 
@@ -56,16 +52,6 @@ private:
                               arguments,
                           environment(), folder.path());
     }
-    void makeLocale(const QString &source, const QString &charmap) const
-    {
-        QVERIFY(QDir().mkpath(locales));
-        const QString path = locales + u'/' + source + u'.' + charmap;
-        QProcess localedef;
-        localedef.start(u"localedef"_s, {u"-i"_s, source, u"-f"_s, charmap, path});
-        QVERIFY(localedef.waitForFinished());
-        QVERIFY2(QFile::exists(path + u"/LC_CTYPE"_s),
-                 "localedef made no locale: is the package locales there?");
-    }
     void configure(const QByteArray &content) const
     {
         QVERIFY(QDir().mkpath(home + u"/.palvestrin/conf"_s));
@@ -75,7 +61,7 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        makeLocale(u"it_IT"_s, u"ISO-8859-15"_s);
+        makeLocale(locales, u"it_IT"_s, u"ISO-8859-15"_s);
         configure("palvestrin: { };");
         folder.write(u"job.xml"_s, receipt);
         folder.write(u"wide.conf"_s, configuration);
@@ -297,7 +283,7 @@ private Q_SLOTS:
             "palvestrin: error: no \"gif\" for --format; give txt or png or pdf or svg; usage: palvestrin "
             "preview "
             "[--config FILE] [--locale NAME] [-o, --output OUT] [--format txt|png|pdf|svg] [--columns N] "
-            "[--scale N] [--marks] FILE...");
+            "[--scale N] [--marks] [--device line|escpos] [--profile PROFILE] [--hex] FILE...");
         row({u"--columns"_s, u"0"_s, u"job.xml"_s}, 2,
             "palvestrin: error: --columns takes a number from 1 to 1000, not \"0\"");
         row({u"--columns"_s, u"wide"_s, u"job.xml"_s}, 2,

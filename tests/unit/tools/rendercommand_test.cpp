@@ -1,4 +1,5 @@
 #include "escposbytes.h"
+#include "madelocale.h"
 #include "program.h"
 #include "temporaryhome.h"
 #include "wholefile.h"
@@ -86,6 +87,30 @@ private Q_SLOTS:
         QCOMPARE(output(), QByteArray("\nj\n\"=====\"@\nJ\n"));
     }
 
+    void anotherLocale()
+    {
+        const QString locales = home.filePath(u"locales"_s);
+        makeLocale(locales, u"it_IT"_s, u"ISO-8859-15"_s);
+        home.configure("palvestrin: { language: { basedir = \"" TRANSLATIONS_FOLDER "\"; file = /; }; };");
+        writeJob("<job><method name=\"printFullOrderReceipt\"/><notPaid price=\"\xE2\x82\xAC 1\"/></job>");
+        const auto render = [&](const QStringList &words) {
+            const ProgramRun run = runProgram(
+                QStringLiteral(PALVESTRIN_PROGRAM),
+                QStringList{u"render"_s, u"job.xml"_s, u"-o"_s, u"out"_s} + words,
+                bareEnvironment(home.path()) + QStringList{u"LOCPATH="_s + locales, withoutLeakCheck},
+                home.path());
+            return run.failure.isEmpty() ? output() : run.failure.toUtf8();
+        };
+        const QStringList italian = {u"--locale"_s, u"it_IT.ISO-8859-15"_s};
+        QCOMPARE(render({}), QByteArray("\nj\n\"\"@\n\"    Amount not paid: \xE2\x82\xAC 1\"@\nJ\n"));
+        QCOMPARE(render(italian), QByteArray("\nj\n\"\"@\n\"    Corrispettivo non pagato: \xA4 1\"@\nJ\n"));
+        // A receipt printer has letters of its own.
+        const QStringList onGeneric = {u"--device"_s, u"escpos"_s, u"--profile"_s, u"generic"_s};
+        QCOMPARE(render(italian + onGeneric),
+                 escpos("1B40 1C2E 1B7400 1B5200 1B40 1C2E 1B7400 1B5200"
+                        "0A '    Corrispettivo non pagato: ' 1B7413 D5 ' 1' 0A 1B6405"));
+    }
+
     void whatGoesWrong_data()
     {
         QTest::addColumn<QStringList>("words");
@@ -95,7 +120,7 @@ private Q_SLOTS:
                                 << QByteArray("none.xml: error: No such file or directory\n");
         QTest::newRow("no configuration")
             << QStringList{u"job.xml"_s, u"-o"_s, u"out"_s, u"--config"_s, u"none.conf"_s} << 4
-            << QByteArray("none.conf: error: it is no regular file; give one\n");
+            << QByteArray("none.conf: error: there is no such file\n");
         QTest::newRow("no folder") << QStringList{u"job.xml"_s, u"-o"_s, u"no/out"_s} << 7
                                    << QByteArray("no/out: error: cannot be opened for writing\n");
         QTest::newRow("a full disk") << QStringList{u"job.xml"_s, u"-o"_s, u"/dev/full"_s} << 7
@@ -112,20 +137,19 @@ private Q_SLOTS:
             << QByteArray("palvestrin: error: the line printer has no profiles; add --device escpos\n");
         QTest::newRow("no locale")
             << QStringList{u"job.xml"_s, u"-o"_s, u"out"_s, u"--locale"_s, u"xx_XX"_s} << 2
-            << QByteArray("palvestrin: error: the locale \"xx_XX\" is not installed; \"locale "
+            << QByteArray("palvestrin: error: the locale \"xx_XX\" is not installed here; \"locale "
                           "-a\" lists those that are\n");
-        QTest::newRow("onto itself") << QStringList{u"job.xml"_s, u"-o"_s, u"./job.xml"_s} << 2
-                                     << QByteArray(
-                                            "job.xml: error: it would be overwritten before it is read; name "
-                                            "another output\n");
+        QTest::newRow("onto itself")
+            << QStringList{u"job.xml"_s, u"-o"_s, u"./job.xml"_s} << 5
+            << QByteArray("./job.xml: error: this is one of the files to read; name another\n");
         QTest::newRow("a register's document")
             << QStringList{u"fiscal.xml"_s, u"-o"_s, u"out"_s, u"--device"_s, u"escpos"_s} << 3
             << QByteArray(
-                   "fiscal.xml:1:42: error: \"printFullOrderFiscal\" is for a cash register, which speaks a "
+                   "fiscal.xml:1:41: error: \"printFullOrderFiscal\" is for a cash register, which speaks a "
                    "language of its own: this printer prints everything else; the job is printed up to "
                    "here\n");
         QTest::newRow("an unknown method") << QStringList{u"unknown.xml"_s, u"-o"_s, u"out"_s} << 3
-                                           << QByteArray("unknown.xml:1:26: error: there is no print method "
+                                           << QByteArray("unknown.xml:1:25: error: there is no print method "
                                                          "\"menu\"; the job is printed up to here\n");
     }
     void whatGoesWrong()
