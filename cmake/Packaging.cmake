@@ -50,8 +50,9 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME palvestrin-tools)
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION
 "command line tools for Palvestrin Print
 The command palvestrin lists, explains, checks and changes the settings of the
-print renderer, completes them in bash and zsh, and shows on a terminal what a
-print job prints. It needs no GUI library.")
+print renderer, completes them in bash and zsh, shows on a terminal what a
+print job prints, and prints jobs on ESC/POS receipt printers. It needs no GUI
+library.")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "palvestrin-print (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS palvestrin-desktop)
 

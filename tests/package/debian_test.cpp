@@ -109,6 +109,7 @@ private Q_SLOTS:
                                               u"usr/share/doc/palvestrin-print/changelog.gz"_s,
                                               u"usr/share/doc/palvestrin-print/configuration.md"_s,
                                               u"usr/share/doc/palvestrin-print/copyright"_s,
+                                              u"usr/share/doc/palvestrin-print/escpos.md"_s,
                                               u"usr/share/doc/palvestrin-print/job-format.md"_s,
                                               u"usr/share/doc/palvestrin-print/output-format.md"_s,
                                               u"usr/share/doc/palvestrin-print/services.md"_s,
@@ -120,6 +121,7 @@ private Q_SLOTS:
                                               u"usr/share/doc/palvestrin-tools -> palvestrin-print"_s,
                                               u"usr/share/man/man1/palvestrin-config.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin-preview.1.gz"_s,
+                                              u"usr/share/man/man1/palvestrin-render.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin.1.gz"_s,
                                               u"usr/share/zsh/vendor-completions/_palvestrin"_s};
         QTest::newRow("desktop") << u"palvestrin-desktop"_s

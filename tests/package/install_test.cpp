@@ -35,6 +35,7 @@ private Q_SLOTS:
                                  "share/man/man1/palvestrin-settings.1.gz",
                                  "share/man/man1/palvestrin-draw.1.gz",
                                  "share/man/man1/palvestrin-preview.1.gz",
+                                 "share/man/man1/palvestrin-render.1.gz",
                                  "share/man/man5/palvestrin.conf.5.gz",
                                  "share/bash-completion/completions/palvestrin",
                                  "share/zsh/vendor-completions/_palvestrin",
@@ -49,6 +50,7 @@ private Q_SLOTS:
                                  "share/doc/palvestrin-print/job-format.md",
                                  "share/doc/palvestrin-print/output-format.md",
                                  "share/doc/palvestrin-print/configuration.md",
+                                 "share/doc/palvestrin-print/escpos.md",
                                  "share/doc/palvestrin-print/services.md",
                                  "share/doc/palvestrin-print/examples/jobs/printFullOrderReceipt.xml",
                                  "share/doc/palvestrin-print/examples/home/.palvestrin/conf/palvestrin.conf"})
