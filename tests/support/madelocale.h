@@ -11,7 +11,8 @@ inline void makeLocale(const QString &folder, const QString &source, const QStri
     QVERIFY(QDir().mkpath(folder));
     const QString path = folder + u'/' + source + u'.' + charmap;
     QProcess localedef;
-    localedef.start(QStringLiteral("localedef"), {QStringLiteral("-i"), source, QStringLiteral("-f"), charmap, path});
+    localedef.start(QStringLiteral("localedef"),
+                    {QStringLiteral("-i"), source, QStringLiteral("-f"), charmap, path});
     QVERIFY(localedef.waitForFinished());
     QVERIFY2(QFile::exists(path + QStringLiteral("/LC_CTYPE")),
              "localedef made no locale: is the package locales there?");

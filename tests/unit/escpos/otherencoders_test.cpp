@@ -44,9 +44,10 @@ private Q_SLOTS:
 
     void aKitchenThatNeverInitialises()
     {
-        QCOMPARE(shown("'Tisch 7' 0A 1D2111 '2x Br' 81 'he' 0A 1D2100 C9 CD CD BB 0A BA 20 20 BA 0A C8 CD CD BC 0A"
-                       "1D42 01 ' EILT ' 1D42 00 0A 1B69"),
-                 u"|Tisch 7|\n|<hw>2x Brühe|\n|╔══╗|\n|║  ║|\n|╚══╝|\n|<i> EILT |\n-- cut"_s);
+        QCOMPARE(
+            shown("'Tisch 7' 0A 1D2111 '2x Br' 81 'he' 0A 1D2100 C9 CD CD BB 0A BA 20 20 BA 0A C8 CD CD BC 0A"
+                  "1D42 01 ' EILT ' 1D42 00 0A 1B69"),
+            u"|Tisch 7|\n|<hw>2x Brühe|\n|╔══╗|\n|║  ║|\n|╚══╝|\n|<i> EILT |\n-- cut"_s);
     }
 
     void anEncoderThatAsksForTheStateInBetween()
@@ -70,8 +71,10 @@ private Q_SLOTS:
 
     void nationalCharacters()
     {
-        QCOMPARE(shown("1B5202 '{|}[\\]~@' 0A 1B5206 '[]^`{|}~' 0A 1B5203 '#1' 0A 1B5207 '#[|' 0A 1B5200 '[#$' 0A"),
-                 u"|äöüÄÖÜß§|\n|°é^ùàòèì|\n|£1|\n|₧¡ñ|\n|[#$|"_s);
+        QCOMPARE(
+            shown(
+                "1B5202 '{|}[\\]~@' 0A 1B5206 '[]^`{|}~' 0A 1B5203 '#1' 0A 1B5207 '#[|' 0A 1B5200 '[#$' 0A"),
+            u"|äöüÄÖÜß§|\n|°é^ùàòèì|\n|£1|\n|₧¡ñ|\n|[#$|"_s);
         QCOMPARE(shown("1B5202 '{' 1B40 '{' 0A"),
                  u"! a row was begun and not ended: the printer drops it\n|{|"_s);
         QCOMPARE(shown("1B5263 '{' 0A"), u"! 1B 52 63 at byte 0 is not shown\n|{|"_s);
@@ -90,8 +93,10 @@ private Q_SLOTS:
 
     void aPictureInBandsOfColumns()
     {
-        QCOMPARE(shown("1B3318 1B2A21 0300 FF0000 00FF00 0000FF 0A 1B2A21 0300 FF0000 00FF00 0000FF 0A 1B32 'x' 0A"),
-                 u"picture 3 x 24 at 0\npicture 3 x 24 at 0\n|x|"_s);
+        QCOMPARE(
+            shown(
+                "1B3318 1B2A21 0300 FF0000 00FF00 0000FF 0A 1B2A21 0300 FF0000 00FF00 0000FF 0A 1B32 'x' 0A"),
+            u"picture 3 x 24 at 0\npicture 3 x 24 at 0\n|x|"_s);
     }
 
     void aCentredQrCode()

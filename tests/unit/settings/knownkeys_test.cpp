@@ -29,7 +29,7 @@ private Q_SLOTS:
     void everyBlockTakesEverySettingButTheCopiesOfASoldList()
     {
         // 11 of the application; 26 of each of 8 kinds of document.
-        QCOMPARE(knownkeys::all().size(), size_t(11 + 8 * 26 - 1));
+        QCOMPARE(knownkeys::all().size(), size_t(12 + 8 * 26 - 1));
         QVERIFY(knownkeys::find(u"palvestrin.fiscaldoc.topMargin"_s));
         QVERIFY(knownkeys::find(u"palvestrin.receiptdoc.descriptionWidth"_s));
         QVERIFY(knownkeys::find(u"palvestrin.prefiscaldoc.copyNumber"_s));
