@@ -79,7 +79,7 @@ public:
     int line() const { return errorLine; }
     int column() const { return errorColumn; }
     /// Why, in the words of the toolkit when the text is broken.
-    QString error() const { return errorText; }
+    QString trouble() const { return errorText; }
 
 private:
     PrinterDriver &printer;

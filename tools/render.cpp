@@ -132,7 +132,7 @@ void print(Task &task, PrinterDriver &printer)
         throw CommandError(ExitCode::Unreadable, task.path, task.job.errorString());
     if (handler.line() > 0)
         throw CommandError(ExitCode::Refused, task.path, {handler.line(), handler.column()},
-                           handler.error() + u"; the job is printed up to here"_s);
+                           handler.trouble() + u"; the job is printed up to here"_s);
 }
 
 QString lostSentence(const LostCharacters &lost, const Profile &profile)

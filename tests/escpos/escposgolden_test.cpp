@@ -64,7 +64,7 @@ private Q_SLOTS:
             JobSource source(&job);
             JobHandler handler(printer, source);
             printJob(source, handler);
-            QCOMPARE(handler.error(), QString());
+            QCOMPARE(handler.trouble(), QString());
         });
         const QStringList actual = listingOf(bytes);
         if (qEnvironmentVariable("PALVESTRIN_UPDATE_GOLDEN") == u"1") {
