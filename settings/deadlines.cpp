@@ -91,7 +91,8 @@ private:
             std::ranges::find_if(names, [](const ReadName &of) { return !of.front.isEmpty(); });
         if (changed == names.end())
             return;
-        const qsizetype end = token.bytes.trimmed().end() - token.bytes.begin();
+        const QByteArrayView text = token.bytes.trimmed();
+        const qsizetype end = text.data() - token.bytes.data() + text.size();
         found.push_back(
             {token.positionOf(end - wanted.size()),
              u"this line sets nothing: %1 in front of %2 is read as part of that name; "

@@ -322,6 +322,28 @@ private Q_SLOTS:
         QCOMPARE(char(stream.get()), 'n');
     }
 
+    void readingTellsWhatEndedIt()
+    {
+        const auto file = [](const char *content) {
+            std::istringstream stream(content);
+            Record record;
+            return Tokenizer(stream, record).readFile();
+        };
+        const auto block = [](const char *content) {
+            std::istringstream stream(content);
+            Record record;
+            return Tokenizer(stream, record).readBlock();
+        };
+        QVERIFY(file("p: { k = v; };") == Tokenizer::End::File);
+        QVERIFY(file("p: { k = v;") == Tokenizer::End::File);
+        QVERIFY(file("} ; k = v;") == Tokenizer::End::Brace);
+        QVERIFY(file("p: { }; }") == Tokenizer::End::Brace);
+        QVERIFY(block("k = v; }; k = w;") == Tokenizer::End::Brace);
+        QVERIFY(block("k = v; }") == Tokenizer::End::Brace);
+        QVERIFY(block("k = v;") == Tokenizer::End::File);
+        QVERIFY(block("q: { };") == Tokenizer::End::File);
+    }
+
     void skippedIsWhatTheReaderDrops()
     {
         QByteArray skipped;
