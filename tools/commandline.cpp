@@ -32,6 +32,14 @@ bool mayRepeat(const Operand &operand)
     return operand.count == Operand::OneOrMore || operand.count == Operand::Any;
 }
 
+/// In the shortest form.
+QString shownInUsage(const Option &option)
+{
+    const QString name = option.letter ? u"-%1"_s.arg(QLatin1Char(option.letter)) : dashed(option);
+    const QString whole = option.argument ? name + u' ' + option.argument->name : name;
+    return option.isRequired ? whole : u'[' + whole + u']';
+}
+
 QString shownOperand(const Operand &operand)
 {
     const QString name = operand.argument->name + (mayRepeat(operand) ? "..."_L1 : ""_L1);
@@ -227,7 +235,7 @@ QString usageLine(const Command &command, const QString &program)
 {
     QString line = program;
     for (const Option &option : command.options)
-        line += option.isRequired ? u' ' + shownOption(option) : " ["_L1 + shownOption(option) + u']';
+        line += u' ' + shownInUsage(option);
     for (const Operand &operand : command.operands)
         line += u' ' + shownOperand(operand);
     return line;

@@ -70,7 +70,7 @@ private:
     QString firstTrouble;
 };
 
-/// "palvestrin config get [--file FILE] KEY".
+/// "palvestrin config get [--file FILE] KEY", with the shortest form of each option.
 QString usageLine(const Command &command, const QString &program);
 /// How a list of commands shows it: "get KEY".
 QString shortUsage(const Command &command);

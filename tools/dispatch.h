@@ -9,5 +9,8 @@
 /// Throws a CommandError.
 ExitCode dispatch(const Command &group, const QString &program, const QByteArrayList &words);
 
+/// The program itself, and under it all its commands.
+extern const Command palvestrinCommand;
+
 /// All of `palvestrin`: `words` are those behind the program's name. Prints what goes wrong.
 ExitCode runPalvestrin(const QByteArrayList &words);

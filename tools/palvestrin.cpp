@@ -14,8 +14,6 @@ namespace {
 
 constexpr const Command *commands[] = {&configCommand, &previewCommand, &renderCommand};
 
-constexpr Command palvestrin{.name = "palvestrin"_L1, .commands = commands};
-
 ExitCode run(const QByteArrayList &words)
 {
     if (words.value(0) == "--version") {
@@ -23,13 +21,15 @@ ExitCode run(const QByteArrayList &words)
         return ExitCode::Done;
     }
     if (words.value(0) == "--complete") { // for the shells' completions
-        printText(offersFor(palvestrin, words.sliced(1)));
+        printText(offersFor(palvestrinCommand, words.sliced(1)));
         return ExitCode::Done;
     }
-    return dispatch(palvestrin, palvestrin.name, words);
+    return dispatch(palvestrinCommand, palvestrinCommand.name, words);
 }
 
 } // namespace
+
+constinit const Command palvestrinCommand{.name = "palvestrin"_L1, .commands = commands};
 
 ExitCode runPalvestrin(const QByteArrayList &words)
 {

@@ -1,4 +1,6 @@
-#include "config.h"
+#include "commandline.h"
+#include "configfile.h"
+#include "dispatch.h"
 #include "exitcode.h"
 #include "keyedit.h"
 #include "keytables.h"
@@ -161,17 +163,43 @@ private Q_SLOTS:
         QVERIFY(shownManual(page).contains(u" SEE ALSO "_s));
     }
 
+    /// Each command has a page: its usage, or that of the commands in it, and every option.
+    void theManualHasEveryCommandAndOption_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<const Command *>("command");
+        for (const Command *command : palvestrinCommand.commands) {
+            const QString page = u"palvestrin-%1.1"_s.arg(command->name);
+            const QString program = u"palvestrin "_s + command->name;
+            if (command->commands.empty())
+                QTest::addRow("%s", qPrintable(program)) << page << program << command;
+            for (const Command *inside : command->commands) {
+                const QString whole = program + u' ' + inside->name;
+                QTest::addRow("%s", qPrintable(whole)) << page << whole << inside;
+            }
+        }
+    }
     void theManualHasEveryCommandAndOption()
     {
-        const QString page = shownManual(u"palvestrin-config.1"_s);
-        const QString synopsis = page.section(u" SYNOPSIS "_s, 1, 1).section(u" DESCRIPTION "_s, 0, 0);
-        const QString options = page.section(u" OPTIONS "_s, 1, 1).section(u" EXIT STATUS "_s, 0, 0);
-        for (const Command *command : configCommand.commands) {
-            const QString usage = usageLine(*command, u"palvestrin config "_s + command->name);
-            QVERIFY2((synopsis + u' ').contains(usage + u' '), qPrintable(usage));
-            for (const Option &option : command->options)
-                QVERIFY2(options.contains("--"_L1 + option.name + u' '), option.name.data());
-        }
+        QFETCH(QString, page);
+        QFETCH(QString, program);
+        QFETCH(const Command *, command);
+        const QString text = shownManual(page);
+        const QString synopsis = text.section(u" SYNOPSIS "_s, 1, 1).section(u" DESCRIPTION "_s, 0, 0) + u' ';
+        const QString usage = usageLine(*command, program);
+        QVERIFY2(synopsis.contains(usage + u' '), qPrintable(usage));
+        const QString options = text.section(u" OPTIONS "_s, 1, 1).section(u" EXIT STATUS "_s, 0, 0);
+        for (const Option &option : command->options)
+            QVERIFY2(options.contains("--"_L1 + option.name + u' '), option.name.data());
+    }
+
+    void theOverviewNamesEveryPage()
+    {
+        const QString overview = shownManual(u"palvestrin.1"_s);
+        for (const Command *command : palvestrinCommand.commands)
+            QVERIFY2(overview.contains(u"%1, see palvestrin-%1(1) %2"_s.arg(command->name, command->summary)),
+                     command->name.data());
     }
 
     void theManualListsEveryExitCode()
