@@ -5,7 +5,7 @@
 #   cpack --config build/release/CPackConfig.cmake
 
 install(DIRECTORY examples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
-install(FILES README.md SECURITY.md docs/configuration.md docs/escpos.md docs/job-format.md
+install(FILES README.md SECURITY.md docs/checks.md docs/configuration.md docs/escpos.md docs/job-format.md
   docs/output-format.md docs/services.md packaging/copyright
   DESTINATION ${CMAKE_INSTALL_DOCDIR})
 palvestrin_compressed(${PROJECT_SOURCE_DIR}/packaging/changelog changelog.gz)

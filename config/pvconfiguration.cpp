@@ -23,6 +23,11 @@ PVConfiguration::PVConfiguration()
     readFile(userFile(), u"cfg"_s);
 }
 
+PVConfiguration::PVConfiguration(const QByteArray &content, const QString &name)
+{
+    readContent(content, name, u"cfg"_s);
+}
+
 QString PVConfiguration::userFile()
 {
     return QDir::homePath() + "/.palvestrin/conf/palvestrin.conf"_L1;

@@ -10,6 +10,9 @@ class PVConfiguration : public libconfig::Config
 public:
     /// Reads the user's file. A missing one is reported in one line on standard output.
     PVConfiguration();
+    /// A configuration of its own, beside the user's: `content` of the file `name`, in the text form as
+    /// the programs read it. Opens no file.
+    PVConfiguration(const QByteArray &content, const QString &name);
 
     /// The path of the user's configuration file. It is fixed: no option and no variable but HOME changes it.
     static QString userFile();

@@ -103,6 +103,7 @@ struct Fault
     qint64 line = 1;
     qint64 column = 1;
     QString what;
+    bool isEarlyEnd = false; ///< the stream should go on here
 };
 
 /// Columns that a character takes on paper: 0 for a combining mark, 2 for a wide (East Asian) one, else 1.

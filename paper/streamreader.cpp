@@ -45,7 +45,8 @@ void StreamReader::finish()
     const bool isUnclosed = section == Section::Paper;
     if (isUnclosed && !isCutOff) {
         onFault({lineNumber + 1, 1,
-                 u"the closing J is missing: the job was not read to its end, or its output was cut off"_s});
+                 u"the closing J is missing: the job was not read to its end, or its output was cut off"_s,
+                 true});
     }
     if (isUnclosed || (isCutOff && section == Section::Register))
         painter.remark(u"The output is cut off here."_s);
@@ -67,7 +68,7 @@ void StreamReader::take(const StreamLine &bytes)
         takeLine(line);
     }
     if (isCutOff)
-        onFault({line.number, columnBehind(line.text), u"the output ends in the middle of a line"_s});
+        onFault({line.number, columnBehind(line.text), u"the output ends in the middle of a line"_s, true});
 }
 
 /// An empty line that is not the one in front of a "j".

@@ -8,12 +8,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-void loadCatalogue(QTranslator &translator, const PVConfiguration &configuration)
+bool loadCatalogue(QTranslator &translator, const PVConfiguration &configuration)
 {
     const QString basedir = configuration.getStrValue(applicationkey::languageBaseDir);
     const QString file = configuration.getStrValue(applicationkey::languageFile);
     if (file == "/"_L1) // the marker for a catalogue named after the locale
-        (void)translator.load(basedir + "/palvestrin_"_L1 + runlocale::name(), u"."_s);
-    else
-        (void)translator.load(basedir + file);
+        return translator.load(basedir + "/palvestrin_"_L1 + runlocale::name(), u"."_s);
+    return translator.load(basedir + file);
 }

@@ -10,13 +10,18 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QStringMatcher replacedWord(u"TOTALE");
+const QStringMatcher replaced(CompanyPrinterDriver::replacedWord);
 
 } // namespace
 
 CompanyPrinterDriver::CompanyPrinterDriver(const QString &fileName) : PrinterDriver(fileName, false) {}
 
 CompanyPrinterDriver::CompanyPrinterDriver(const NativeFileName &fileName) : PrinterDriver(fileName, false) {}
+
+CompanyPrinterDriver::CompanyPrinterDriver(PVConfiguration &ownConfiguration)
+    : PrinterDriver(ownConfiguration)
+{
+}
 
 CompanyPrinterDriver::~CompanyPrinterDriver() = default;
 
@@ -65,11 +70,11 @@ void CompanyPrinterDriver::endSection()
 
 void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
 {
-    // A rule of the device, for labels and names alike: the word "TOTALE" never reaches the paper. It is
+    // A rule of the device, for labels and names alike: a word never reaches the paper. It is
     // applied to each text on its own, so a word put together from two of them gets through.
     lineBuffer.resize(lineBuffer.size() + indent, u' ');
-    if (replacedWord.indexIn(text) >= 0)
-        lineBuffer += QString(text).replace(replacedWord.pattern(), "SOMMA"_L1);
+    if (replaced.indexIn(text) >= 0)
+        lineBuffer += QString(text).replace(replaced.pattern(), replacement.toString());
     else
         lineBuffer += text;
 }

@@ -18,10 +18,15 @@ class CompanyPrinterDriver : public PrinterDriver
 public:
     /// Characters on a line of this printer, and the `paperWidth` of a document kind that sets none.
     static constexpr unsigned int lineWidth = 32;
+    /// A word that never reaches the paper, and the one that is printed in its place.
+    static constexpr QStringView replacedWord = u"TOTALE";
+    static constexpr QStringView replacement = u"SOMMA";
 
     /// Empties or makes the file at once.
     explicit CompanyPrinterDriver(const QString &fileName);
     explicit CompanyPrinterDriver(const NativeFileName &fileName);
+    /// Writes no file: see `write`.
+    explicit CompanyPrinterDriver(PVConfiguration &ownConfiguration);
     /// A line that was begun and not ended is dropped.
     ~CompanyPrinterDriver() override;
 
@@ -47,9 +52,12 @@ public:
     virtual void printRowFiscal(const QString &department, const QString &quantity,
                                 const QString &description, const QString &price, const QString &modifier);
 
-private:
+protected:
+    /// Where everything goes that is sent to the printer: a line, a command or a bracket at a time. Into the
+    /// output file, or nowhere when there is none.
+    virtual void write(const QString &text);
     bool isFiscal() const;
-    void write(const QString &text);
 
+private:
     QString lineBuffer; ///< the line being assembled, its opening quote included
 };

@@ -295,7 +295,7 @@ inline constexpr Attribute cancelledSummaryAttributes[] = {
 inline constexpr Element reportElements[] = {
     {"date"_L1, printReportPeriod, reportPeriodAttributes},
     {"prefiscalssummary"_L1, printPrefiscalsSummary, prefiscalsSummaryAttributes, rule},
-    {"receiptssummary"_L1, printReceiptsSummary, receiptsSummaryAttributes, rule},
+    {"receiptssummary"_L1, printReceiptsSummary, receiptsSummaryAttributes, rule, nullptr, "taxrate_item"_L1},
     {"taxrate_item"_L1, printTaxRateRow, taxRateAttributes},
     {"invoicessummary"_L1, printInvoicesSummary, invoicesSummaryAttributes, rule},
     {"cancelledsummary"_L1, printCancelledSummary, cancelledSummaryAttributes, rule},
@@ -318,7 +318,7 @@ inline constexpr Element soldElements[] = {
     {"receipe"_L1, printSoldItem, soldItemAttributes, pricedRow},
 };
 inline constexpr Element statementElements[] = {
-    {"statement_list"_L1, printStatementTitles, {}, statementRow},
+    {"statement_list"_L1, printStatementTitles, {}, statementRow, nullptr, "statement"_L1},
     {"statement"_L1, printStatementRow, statementAttributes, statementRow},
 };
 

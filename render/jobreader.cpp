@@ -71,6 +71,15 @@ bool JobSource::addEntity(const QString &value)
     return ++entities <= maxEntities && !nestsTooDeep(value);
 }
 
+QString JobSource::exceeded() const
+{
+    if (openParentheses > maxNesting)
+        return u"parentheses are nested deeper than %1"_s.arg(maxNesting);
+    if (expanded > maxExpansion)
+        return u"entity references may stand for more than %1 characters"_s.arg(maxExpansion);
+    return {};
+}
+
 void JobSource::leaveProlog()
 {
     inProlog = false;
@@ -149,13 +158,18 @@ bool JobHandler::fatalError(const QXmlParseException &exception)
 {
     errorLine = exception.lineNumber();
     errorColumn = exception.columnNumber();
-    errorText = exception.message();
+    errorText = exceeded().isEmpty() ? exception.message() : exceeded();
     return false;
 }
 
 QString JobHandler::errorString() const
 {
-    return limit.isEmpty() ? printer.errorString() : limit;
+    return exceeded().isEmpty() ? printer.errorString() : exceeded();
+}
+
+QString JobHandler::exceeded() const
+{
+    return limit.isEmpty() ? source.exceeded() : limit;
 }
 
 void printJob(JobSource &source, JobHandler &handler)

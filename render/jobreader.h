@@ -38,6 +38,8 @@ public:
     void setInDocumentType(bool inside) { inDocumentType = inside; }
     /// The first element has begun.
     void leaveProlog();
+    /// The limit at which the text was ended; "" while it was not.
+    QString exceeded() const;
 
 private:
     void watch(QChar character);
@@ -81,12 +83,16 @@ public:
     /// Why, in the words of the toolkit when the text is broken.
     QString trouble() const { return errorText; }
 
+protected:
+    /// The limit that the job exceeds, or the method that nobody knows; "" when neither ended it.
+    QString exceeded() const;
+
 private:
     PrinterDriver &printer;
     JobSource &source;
     int openElements = 0;
     PrefixScope prefixes;
-    QString limit; ///< that the job exceeds, or the method that nobody knows
+    QString limit; ///< as `exceeded`, found by the handler and not by the source
     int errorLine = 0;
     int errorColumn = 0;
     QString errorText;

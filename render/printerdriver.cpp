@@ -23,6 +23,11 @@ PrinterDriver::PrinterDriver(const NativeFileName &fileName, bool append)
     output.reset();
 }
 
+PrinterDriver::PrinterDriver(PVConfiguration &ownConfiguration)
+    : configuration(&ownConfiguration), justification(u"left"_s)
+{
+}
+
 PrinterDriver::~PrinterDriver()
 {
     const QString error = close();

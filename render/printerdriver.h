@@ -47,6 +47,8 @@ public:
     /// on standard output, and the job renders to nowhere.
     PrinterDriver(const QString &fileName, bool append);
     PrinterDriver(const NativeFileName &fileName, bool append);
+    /// A printer without an output file, under a configuration of its own, which must outlive it.
+    explicit PrinterDriver(PVConfiguration &ownConfiguration);
     PrinterDriver(const PrinterDriver &) = delete;
     PrinterDriver &operator=(const PrinterDriver &) = delete;
     /// Closes the output file, unless `close` has. When not all of it could be written, says so in one line

@@ -15,6 +15,12 @@ const Element *findElement(std::span<const Element> elements, const QString &nam
     return nullptr;
 }
 
+const Element *findElement(const Document &document, const QString &name)
+{
+    const Element *section = document.hasSections ? findElement(sectionElements, name) : nullptr;
+    return section ? section : findElement(document.elements, name);
+}
+
 bool consults(const Element &element, const DocumentSetting &setting)
 {
     if (const auto *count = std::get_if<CountMember>(&setting.member))

@@ -74,6 +74,7 @@ struct Element
     std::span<const Attribute> attributes = {};
     std::span<const CountMember> counts = {}; ///< the settings that it consults beside the flags
     FlagMember flag = nullptr; ///< the setting that must be on for it to print at all; null when none must
+    QLatin1StringView titles = {}; ///< the element of the document that it prints the column titles of
 };
 
 /// What a print method prints.
@@ -85,6 +86,8 @@ struct Document
 
 /// The element of that name; null when there is none.
 const Element *findElement(std::span<const Element> elements, const QString &name);
+/// The same, header sections included where the document prints them.
+const Element *findElement(const Document &document, const QString &name);
 
 /// Whether the setting makes a difference to what the element prints.
 bool consults(const Element &element, const DocumentSetting &setting);

@@ -26,11 +26,6 @@ bool isThereAt(const FileName &path)
     throw CommandError(ExitCode::Unreadable, path, qt_error_string(errno));
 }
 
-bool looksLikeXml(const QByteArray &content)
-{
-    return content.trimmed().startsWith('<') || content.startsWith("\xef\xbb\xbf<");
-}
-
 QString withoutFullStop(const QString &sentence)
 {
     return sentence.endsWith(u'.') ? sentence.chopped(1) : sentence;
@@ -97,6 +92,11 @@ QString whatFits(const QString &type)
 
 } // namespace
 
+bool form::isXml(const QByteArray &content)
+{
+    return content.trimmed().startsWith('<') || content.startsWith("\xef\xbb\xbf<");
+}
+
 QByteArray bytesOf(const FileName &path)
 {
     if (!path.isRegularFile()) // a pipe could be read only once, a folder not at all
@@ -133,7 +133,7 @@ ConfigFile::ConfigFile(const FileName &filePath)
 void ConfigFile::read()
 {
     bytes = bytesOf(path);
-    if (looksLikeXml(bytes))
+    if (form::isXml(bytes))
         form = form::xml;
     tree.readContent(bytes, path.shown(), form);
     if (form == form::xml)

@@ -11,6 +11,9 @@
 namespace form {
 inline constexpr QLatin1StringView text("cfg");
 inline constexpr QLatin1StringView xml("xml");
+
+/// Told by the first character: XML begins with "<".
+bool isXml(const QByteArray &content);
 } // namespace form
 
 /// A configuration file in the hands of a person: read, looked at, changed, and never lost.

@@ -1,5 +1,7 @@
 #include "deadlines.h"
 
+#include "readname.h"
+
 #include <QList>
 
 #include <algorithm>
@@ -12,32 +14,6 @@ using libconfig::TokenKind;
 namespace {
 
 constexpr QByteArrayView blanks(" \t\v\f\r");
-
-/// The name of a block or a pair, as a person reads it: the last word is the name.
-struct ReadName
-{
-    QByteArray word;
-    QByteArray front; ///< what the reader takes for a part of the name
-    bool isDisabled;  ///< the line of the word begins as a remark
-};
-
-qsizetype lastWordOf(QByteArrayView text)
-{
-    qsizetype begin = text.size();
-    while (begin > 0 && text[begin - 1] != '\n' && !blanks.contains(text[begin - 1]))
-        --begin;
-    return begin;
-}
-
-ReadName readName(QByteArrayView bytes)
-{
-    const QByteArrayView text = bytes.trimmed();
-    const qsizetype begin = lastWordOf(text);
-    const QByteArrayView front = text.first(begin);
-    const QByteArrayView line = front.sliced(front.lastIndexOf('\n') + 1).trimmed();
-    return {text.sliced(begin).toByteArray(), front.trimmed().toByteArray(),
-            line.startsWith('#') || line.startsWith("//")};
-}
 
 /// Follows the blocks to where a key is looked for, and notes what stands there in vain.
 class DeadLineFinder : public libconfig::TokenListener

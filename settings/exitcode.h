@@ -17,6 +17,8 @@ enum class ExitCode {
     NotInstalled = 8,
     Broken = 9,
     TooLarge = 10,
+    Warnings = 11,
+    Errors = 12,
 };
 
 struct ExitCodeMeaning
@@ -50,4 +52,6 @@ inline constexpr std::array exitCodeMeanings{
                     QLatin1StringView("An output has faults; it was shown all the same, as far as it goes.")},
     ExitCodeMeaning{ExitCode::TooLarge,
                     QLatin1StringView("The picture would be too large; nothing was written.")},
+    ExitCodeMeaning{ExitCode::Warnings, QLatin1StringView("The check found warnings, and no errors.")},
+    ExitCodeMeaning{ExitCode::Errors, QLatin1StringView("The check found errors.")},
 };

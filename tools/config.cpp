@@ -11,7 +11,7 @@ namespace {
 
 constexpr const Command *commands[] = {&configListCommand,  &configGetCommand,  &configSetCommand,
                                        &configUnsetCommand, &configShowCommand, &configConvertCommand,
-                                       &configEditCommand};
+                                       &configCheckCommand, &configEditCommand};
 
 /// Whether this is the user's own file, and XML.
 bool hasUnreadForm(const CommandLine &line, const ConfigFile &file)
@@ -33,10 +33,14 @@ FileName chosenFile(const CommandLine &line)
 
 void requireFile(const ConfigFile &file)
 {
-    if (!file.exists()) {
-        throw CommandError(ExitCode::Unreadable, file.path,
-                           u"there is no such file; \"palvestrin config set\" makes it"_s);
-    }
+    if (!file.exists())
+        refuseMissing(file.path);
+}
+
+void refuseMissing(const FileName &path)
+{
+    throw CommandError(ExitCode::Unreadable, path,
+                       u"there is no such file; \"palvestrin config set\" makes it"_s);
 }
 
 void noteUnreadForm(const CommandLine &line, const ConfigFile &file)

@@ -14,6 +14,7 @@ extern const Command configSetCommand;
 extern const Command configUnsetCommand;
 extern const Command configShowCommand;
 extern const Command configConvertCommand;
+extern const Command configCheckCommand;
 extern const Command configEditCommand;
 
 // What they share.
@@ -35,6 +36,7 @@ FileName chosenFile(const CommandLine &line);
 
 /// Throws a CommandError (Unreadable) when the file is not there.
 void requireFile(const ConfigFile &file);
+[[noreturn]] void refuseMissing(const FileName &path);
 
 /// The programs read the user's own file as text, whatever it holds. When it is XML: looking at it gets a
 /// note, changing it throws a CommandError (Unreadable), for no program would see the change.

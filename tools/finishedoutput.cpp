@@ -5,15 +5,13 @@
 #include "companion.h"
 #include "console.h"
 #include "contentkind.h"
+#include "inputfile.h"
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 
-#include <cerrno>
-#include <fcntl.h>
 #include <iostream>
-#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -29,29 +27,6 @@ namespace {
 {
     throw CommandError(ExitCode::WriteFailed, file,
                        u"there is no place for what it prints in "_s + QDir::tempPath());
-}
-
-bool isStandardInput(const FileName &file)
-{
-    return file.bytes() == "-";
-}
-
-bool isFolder(int descriptor)
-{
-    struct stat found = {};
-    return ::fstat(descriptor, &found) == 0 && S_ISDIR(found.st_mode);
-}
-
-std::unique_ptr<QFile> openFile(const FileName &name)
-{
-    const int descriptor =
-        isStandardInput(name) ? dup(STDIN_FILENO) : ::open(name.system(), O_RDONLY | O_CLOEXEC);
-    auto file = std::make_unique<QFile>();
-    if (descriptor < 0 || !file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        refuse(name, qt_error_string(descriptor < 0 ? errno : EISDIR));
-    if (isFolder(descriptor)) // which opens, and cannot be read
-        refuse(name, u"this is a folder; name a file"_s);
-    return file;
 }
 
 /// A copy of what can be read only once.
@@ -145,7 +120,7 @@ QFile &FinishedOutput::stream()
 
 void FinishedOutput::open(const FileName &file)
 {
-    output = openFile(file);
+    output = openInput(file);
     if (output->isSequential() || isStandardInput(file))
         output = copyOf(*output, title);
 }

@@ -1,3 +1,4 @@
+#include "check.h"
 #include "commanderror.h"
 #include "completion.h"
 #include "config.h"
@@ -12,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr const Command *commands[] = {&configCommand, &previewCommand, &renderCommand};
+constexpr const Command *commands[] = {&checkCommand, &configCommand, &previewCommand, &renderCommand};
 
 ExitCode run(const QByteArrayList &words)
 {

@@ -1,4 +1,4 @@
-/* Runs a program and prints its peak memory, in KiB.
+/* Runs a program to its end, whatever it ends with, and prints its peak memory, in KiB.
  *
  *   peak_memory PROGRAM [ARGUMENT...]
  */
@@ -16,8 +16,9 @@ int main(int argc, char **argv)
         execvp(argv[1], argv + 1);
         _exit(127);
     }
-    if (child < 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
-        fprintf(stderr, "peak_memory: error: %s did not run, or failed\n", argc > 1 ? argv[1] : "no program");
+    if (child < 0 || wait4(child, &status, 0, &usage) != child || !WIFEXITED(status) ||
+        WEXITSTATUS(status) == 127) {
+        fprintf(stderr, "peak_memory: error: %s did not run to its end\n", argc > 1 ? argv[1] : "no program");
         return 1;
     }
     printf("%ld\n", usage.ru_maxrss);

@@ -5,11 +5,13 @@
 
 #include "columns.h"
 #include "companyprinterdriver.h"
+#include "houseconfiguration.h"
 #include "jobreader.h"
 #include "printmethods.h"
 #include "pvconfiguration.h"
 #include "target.h"
 #include "temporaryhome.h"
+#include "trickle.h"
 
 #include <QBuffer>
 #include <QStringDecoder>
@@ -21,23 +23,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr char configurationEnd[] = "\n---\n";
-
-/// A configuration that sets every width and flag of every document kind.
-QByteArray houseConfiguration()
-{
-    QByteArray text = "palvestrin: {\n";
-    for (const vocabulary::DocumentKind &kind : vocabulary::documentKinds) {
-        text += kind.block.data() + QByteArray(": {\n");
-        text += "quantityFieldWidth = 3; priceFieldWidth = 8; totalPriceFieldWidth = 8;\n"
-                "paperWidth = 40; topMargin = 2; descriptionWidth = 20;\n";
-        for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings) {
-            if (setting.kind == vocabulary::ValueKind::Flag)
-                text += setting.name.data() + QByteArray(" = true;\n");
-        }
-        text += "};\n";
-    }
-    return text + "};\n";
-}
 
 /// A configuration may ask for miles of paper, and gets them: that is slow, not wrong. Widths beyond all
 /// paper count as none.
@@ -79,33 +64,6 @@ public:
 private:
     bool hasFiscal = false;
     bool hasOddText = false;
-};
-
-/// A device that hands out its bytes in drops, so that every kind of token meets the end of the reader's
-/// buffer. A drop is larger than any character: one that held no whole character would be the end of the job
-/// to the toolkit. Files and pipes are read in full kilobytes.
-class Trickle : public QIODevice
-{
-public:
-    explicit Trickle(const QByteArray &content) : bytes(content) { open(ReadOnly | Unbuffered); }
-
-    bool isSequential() const override { return true; }
-    bool atEnd() const override { return position == bytes.size(); }
-
-protected:
-    qint64 readData(char *data, qint64) override
-    {
-        constexpr qsizetype dropSize = 13;
-        const QByteArray drop = bytes.mid(position, dropSize);
-        std::copy(drop.begin(), drop.end(), data);
-        position += drop.size();
-        return drop.isEmpty() ? -1 : drop.size();
-    }
-    qint64 writeData(const char *, qint64) override { return -1; }
-
-private:
-    const QByteArray bytes;
-    qsizetype position = 0;
 };
 
 /// A line of a document that is not fiscal: a section opener or closer, or a quoted line.

@@ -107,6 +107,7 @@ private Q_SLOTS:
                                               u"usr/share/doc/palvestrin-print/README.md"_s,
                                               u"usr/share/doc/palvestrin-print/SECURITY.md"_s,
                                               u"usr/share/doc/palvestrin-print/changelog.gz"_s,
+                                              u"usr/share/doc/palvestrin-print/checks.md"_s,
                                               u"usr/share/doc/palvestrin-print/configuration.md"_s,
                                               u"usr/share/doc/palvestrin-print/copyright"_s,
                                               u"usr/share/doc/palvestrin-print/escpos.md"_s,
@@ -119,10 +120,12 @@ private Q_SLOTS:
                                << QStringList{u"usr/bin/palvestrin"_s,
                                               u"usr/share/bash-completion/completions/palvestrin"_s,
                                               u"usr/share/doc/palvestrin-tools -> palvestrin-print"_s,
+                                              u"usr/share/man/man1/palvestrin-check.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin-config.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin-preview.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin-render.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin.1.gz"_s,
+                                              u"usr/share/palvestrin/printjob.rng"_s,
                                               u"usr/share/zsh/vendor-completions/_palvestrin"_s};
         QTest::newRow("desktop") << u"palvestrin-desktop"_s
                                  << QStringList{u"usr/bin/palvestrin-draw"_s,

@@ -31,6 +31,7 @@ private Q_SLOTS:
                                  "bin/palvestrin-draw",
                                  "share/man/man1/palvestrin-print.1.gz",
                                  "share/man/man1/palvestrin.1.gz",
+                                 "share/man/man1/palvestrin-check.1.gz",
                                  "share/man/man1/palvestrin-config.1.gz",
                                  "share/man/man1/palvestrin-settings.1.gz",
                                  "share/man/man1/palvestrin-draw.1.gz",

@@ -606,6 +606,22 @@ private:
         QCOMPARE(file.write(job), job.size());
     }
 
+    static void addRows()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < int(std::size(rows)); ++i)
+            QTest::newRow(rows[i].name) << i;
+    }
+
+    static void limitMemory(int mebibytes)
+    {
+        if (isSanitized)
+            return; // the sanitizers reserve terabytes
+        const rlim_t bytes = rlim_t(mebibytes) << 20;
+        const rlimit limit = {bytes, bytes};
+        setrlimit(RLIMIT_AS, &limit);
+    }
+
     QByteArray printed() const
     {
         QFile file(outputPath());
@@ -620,12 +636,7 @@ private Q_SLOTS:
                        " printBillingAddress = true; }; };");
     }
 
-    void jobs_data()
-    {
-        QTest::addColumn<int>("index");
-        for (int i = 0; i < int(std::size(rows)); ++i)
-            QTest::newRow(rows[i].name) << i;
-    }
+    void jobs_data() { addRows(); }
 
     void jobs()
     {
@@ -633,13 +644,7 @@ private Q_SLOTS:
         const Job job = rows[index].make();
         writeJob(job.text);
 
-        const Ending ending = render(inputPath(), outputPath(), [&job] {
-            if (isSanitized)
-                return; // the sanitizers reserve terabytes
-            const rlim_t bytes = rlim_t(job.mebibytes) << 20;
-            const rlimit limit = {bytes, bytes};
-            setrlimit(RLIMIT_AS, &limit);
-        });
+        const Ending ending = render(inputPath(), outputPath(), [&job] { limitMemory(job.mebibytes); });
         QVERIFY(!ending.wasTooSlow);
         QVERIFY(ending.hasExited);
         QCOMPARE(ending.exitStatus, 0);
@@ -649,6 +654,29 @@ private Q_SLOTS:
         QCOMPARE(ending.standardError, QByteArray());
         QCOMPARE(printed().left(2000), job.printed.left(2000)); // what a person can read, first
         QVERIFY(printed() == job.printed);
+    }
+
+    void checkedJobs_data() { addRows(); }
+
+    /// The check of a job takes what the renderer takes, twice.
+    void checkedJobs()
+    {
+        QFETCH(int, index);
+        const Job job = rows[index].make();
+        writeJob(job.text);
+
+        const QByteArrayList command{PALVESTRIN_PROGRAM,  "check", "--as", "job", "--quiet",
+                                     inputPath().toUtf8()};
+        constexpr int patience = 200;
+        const Ending ending =
+            RendererProcess(command, [&job] { limitMemory(2 * job.mebibytes); }).wait(patience);
+        QVERIFY(!ending.wasTooSlow);
+        QVERIFY(ending.hasExited);
+        QVERIFY2(ending.exitStatus == 0 || ending.exitStatus == 11 || ending.exitStatus == 12,
+                 QByteArray::number(ending.exitStatus).constData());
+        QVERIFY2(!isOptimised || ending.processorSeconds < 2 * job.processorSeconds,
+                 QByteArray::number(ending.processorSeconds).constData());
+        QCOMPARE(ending.standardOutput + ending.standardError, QByteArray());
     }
 
     /// Characters of two, three and four bytes, on every side of the end of the reader's buffer.

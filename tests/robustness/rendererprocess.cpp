@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -30,9 +31,16 @@ double seconds(const timeval &time)
 
 RendererProcess::RendererProcess(const QString &input, const QString &output,
                                  const std::function<void()> &beforeStart)
+    : RendererProcess({PALVESTRIN_PRINT, QFile::encodeName(input), QFile::encodeName(output)}, beforeStart)
 {
-    const QByteArray inputName = QFile::encodeName(input);
-    const QByteArray outputName = QFile::encodeName(output);
+}
+
+RendererProcess::RendererProcess(const QByteArrayList &command, const std::function<void()> &beforeStart)
+{
+    std::vector<char *> words;
+    for (const QByteArray &word : command)
+        words.push_back(const_cast<char *>(word.constData()));
+    words.push_back(nullptr);
     int outputEnds[2];
     int errorEnds[2];
     if (pipe2(outputEnds, O_CLOEXEC) < 0 || pipe2(errorEnds, O_CLOEXEC) < 0)
@@ -45,7 +53,7 @@ RendererProcess::RendererProcess(const QString &input, const QString &output,
         dup2(errorEnds[1], STDERR_FILENO);
         if (beforeStart)
             beforeStart();
-        execl(PALVESTRIN_PRINT, PALVESTRIN_PRINT, inputName.constData(), outputName.constData(), nullptr);
+        execv(words.front(), words.data());
         std::_Exit(EXIT_FAILURE);
     }
     close(outputEnds[1]);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QByteArray>
+#include <QByteArrayList>
 #include <QString>
 
 #include <functional>
@@ -17,8 +17,8 @@ struct Ending
     QByteArray standardError;
 };
 
-/// One run of `palvestrin-print`. It inherits HOME and the locale of the test; its two streams are collected
-/// in memory. A run that is still going when this is destroyed is killed.
+/// One run of `palvestrin-print`, or of another program of the house. It inherits HOME and the locale of the
+/// test; its two streams are collected in memory. A run that is still going when this is destroyed is killed.
 class RendererProcess
 {
 public:
@@ -26,6 +26,8 @@ public:
     /// limits and streams of a kind of its own.
     RendererProcess(const QString &input, const QString &output,
                     const std::function<void()> &beforeStart = {});
+    /// Starts the program of that path with its arguments.
+    explicit RendererProcess(const QByteArrayList &command, const std::function<void()> &beforeStart = {});
     ~RendererProcess();
     RendererProcess(const RendererProcess &) = delete;
     RendererProcess &operator=(const RendererProcess &) = delete;

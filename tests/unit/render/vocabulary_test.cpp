@@ -241,6 +241,16 @@ private Q_SLOTS:
         QCOMPARE(names.removeDuplicates(), 0);
     }
 
+    void titlesAreOfAnElementOfTheSameDocument_data() { addMethods(); }
+    void titlesAreOfAnElementOfTheSameDocument()
+    {
+        const vocabulary::Document &document = methodOfTheRow().document;
+        for (const Element *element : elementsOf(document)) {
+            if (!element->titles.isEmpty())
+                QVERIFY(vocabulary::findElement(document.elements, element->titles));
+        }
+    }
+
     void everyKindIsKnown()
     {
         for (const PrintMethod &method : vocabulary::printMethods)

@@ -282,7 +282,7 @@ private Q_SLOTS:
         row({u"--format"_s, u"gif"_s, u"job.xml"_s}, 2,
             "palvestrin: error: no \"gif\" for --format; give txt or png or pdf or svg; usage: palvestrin "
             "preview "
-            "[--config FILE] [--locale NAME] [-o, --output OUT] [--format txt|png|pdf|svg] [--columns N] "
+            "[--config FILE] [--locale NAME] [-o OUT] [--format txt|png|pdf|svg] [--columns N] "
             "[--scale N] [--marks] [--device line|escpos] [--profile PROFILE] [--hex] FILE...");
         row({u"--columns"_s, u"0"_s, u"job.xml"_s}, 2,
             "palvestrin: error: --columns takes a number from 1 to 1000, not \"0\"");

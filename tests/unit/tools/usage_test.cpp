@@ -141,6 +141,7 @@ Commands:
   unset KEY                  Remove one setting.
   show                       The file as the programs read it.
   convert --to xml|cfg FILE  A configuration in the other form of file.
+  check                      What is wrong with the file, and where.
   edit                       Change settings in a window.
   help [COMMAND]             Tell about a command.
 
