@@ -5,9 +5,10 @@
 #   cpack --config build/release/CPackConfig.cmake
 
 install(DIRECTORY examples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
-install(FILES README.md SECURITY.md docs/checks.md docs/configuration.md docs/escpos.md docs/job-format.md
-  docs/output-format.md docs/services.md packaging/copyright
-  DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# As in the source tree, so that the documents' links lead somewhere there too.
+install(FILES README.md SECURITY.md CHANGELOG.md packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES translations/movement-types.txt DESTINATION ${CMAKE_INSTALL_DOCDIR}/translations)
 palvestrin_compressed(${PROJECT_SOURCE_DIR}/packaging/changelog changelog.gz)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz DESTINATION ${CMAKE_INSTALL_DOCDIR})
 

@@ -1,66 +1,30 @@
-// The tables of the documents against the tables of the code.
+// The tables and samples of the documents against the tables of the code and the program.
 
 #include "documentelements.h"
+#include "markdown.h"
 #include "printmethods.h"
 #include "program.h"
 #include "temporaryhome.h"
+#include "wholefile.h"
 
-#include <QFile>
+#include <QDirIterator>
 #include <QRegularExpression>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString readDocument(const QString &name)
+QString sourcePath(const QString &name)
 {
-    QFile file(QStringLiteral(PALVESTRIN_SOURCE_DIR) + u'/' + name);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("no %s", qPrintable(name));
-    return QString::fromUtf8(file.readAll());
+    return QStringLiteral(PALVESTRIN_SOURCE_DIR) + u'/' + name;
 }
 
-/// What stands between `heading` and the next heading, of whatever level.
-QString sectionOf(const QString &document, const QString &heading)
-{
-    const qsizetype start = document.indexOf(u'\n' + heading + u'\n');
-    if (start < 0)
-        return {};
-    const qsizetype body = start + heading.size() + 2;
-    const qsizetype end =
-        document.indexOf(QRegularExpression(u"^#"_s, QRegularExpression::MultilineOption), body);
-    return document.mid(body, end < 0 ? -1 : end - body);
-}
-
-/// The rows of a section's table, cells trimmed and without backticks; the two lines of its head left out.
-QList<QStringList> tableOf(const QString &section)
-{
-    QList<QStringList> rows;
-    for (const QString &line : section.split(u'\n')) {
-        if (!line.startsWith(u'|'))
-            continue;
-        QStringList cells = line.mid(1, line.lastIndexOf(u'|') - 1).split(u'|');
-        for (QString &cell : cells)
-            cell = cell.remove(u'`').trimmed();
-        rows += cells;
-    }
-    return rows.mid(2);
-}
-
-QList<QStringList> firstTwoColumns(const QList<QStringList> &table)
-{
-    QList<QStringList> columns;
-    for (const QStringList &row : table)
-        columns += row.first(2);
-    return columns;
-}
-
-/// What a table of the document says of an element's attributes.
+/// What the matrix says of an element's attributes.
 QString attributesCell(const vocabulary::Element &element)
 {
-    if (element.name == vocabulary::customerElement.name)
-        return u"see [the customer](#the-customer)"_s;
     QStringList names;
     for (const vocabulary::Attribute &attribute : element.attributes)
         names += attribute.name.isEmpty() ? u"any"_s : QString(attribute.name);
@@ -69,12 +33,33 @@ QString attributesCell(const vocabulary::Element &element)
     return names.isEmpty() ? u"none"_s : names.join(", "_L1);
 }
 
-QList<QStringList> elementsAndAttributes(std::span<const vocabulary::Element> elements)
+/// Output as the documents show it, in the bytes that it stands for. Its line ends are shown, so the lines of
+/// the block are none.
+QByteArray bytesOf(QString shown)
 {
-    QList<QStringList> rows;
-    for (const vocabulary::Element &element : elements)
-        rows += QStringList{element.name, attributesCell(element)};
-    return rows;
+    return shown.remove(u'\n').replace(u'␣', u' ').replace(u'␊', u'\n').replace(u'␍', u'\r').toUtf8();
+}
+
+/// What stands on paper, with the blanks at the ends of lines shown.
+QString paperOf(const QByteArray &stream)
+{
+    static const QRegularExpression quotes(u"^\"(.*)\"@$"_s);
+    static const QRegularExpression blanks(u" +$"_s);
+    QString paper;
+    for (QString line : QString::fromUtf8(stream).split(u'\n')) {
+        if (line == "j"_L1 || line == "J"_L1 || line.isEmpty())
+            continue;
+        line.replace(quotes, u"\\1"_s).replace(u'\r', u'␍');
+        const qsizetype length = blanks.match(line).capturedLength();
+        paper += line.chopped(length) + QString(length, u'␣') + u'\n';
+    }
+    return paper;
+}
+
+/// The link "[receipe](#receipe-on-a-bill)" of the matrix.
+QString anchorIn(const QString &cell)
+{
+    return cell.section(u'#', 1).chopped(1);
 }
 
 } // namespace
@@ -84,34 +69,62 @@ class DocsTest : public QObject
     Q_OBJECT
 
 private:
-    const QString jobFormat = readDocument(u"docs/job-format.md"_s);
+    const QString jobFormat = markdown::document(u"docs/job-format.md"_s);
+    const QString outputFormat = markdown::document(u"docs/output-format.md"_s);
+    const QList<QStringList> methodRows =
+        markdown::tableOf(markdown::sectionOf(jobFormat, u"## Print methods"_s));
+    const QList<QStringList> matrix =
+        markdown::tableOf(markdown::sectionOf(jobFormat, u"## Elements and methods"_s));
     const TemporaryHome home;
 
-    /// The lines on paper, without the blanks at their ends, as a document shows them.
-    QStringList print(const QString &job)
+    /// The block that docs/configuration.md shows.
+    static QString sampleBlock()
     {
-        home.configure(readDocument(u"examples/home/.palvestrin/conf/palvestrin.conf"_s).toLatin1());
-        QFile file(home.filePath(u"job.xml"_s));
-        if (!file.open(QIODevice::WriteOnly))
-            qFatal("cannot write the job");
-        file.write(job.toUtf8());
-        file.close();
-        runProgram(QStringLiteral(PALVESTRIN_PRINT), {u"job.xml"_s, u"paper"_s},
-                   {u"HOME="_s + home.path(), u"LC_ALL=C.UTF-8"_s}, home.path());
-        QFile paper(home.filePath(u"paper"_s));
-        if (!paper.open(QIODevice::ReadOnly))
-            qFatal("nothing was printed");
-        QStringList lines;
-        for (QString line : QString::fromUtf8(paper.readAll()).split(u'\n', Qt::SkipEmptyParts)) {
-            if (line == "j"_L1 || line == "J"_L1)
-                continue;
-            if (line.endsWith("\"@"_L1))
-                line = line.sliced(1).chopped(2);
-            while (line.endsWith(u' ') || line.endsWith(u'\r'))
-                line.chop(1);
-            lines += line;
+        for (const markdown::Block &block :
+             markdown::blocksOf(markdown::document(u"docs/configuration.md"_s))) {
+            if (block.heading == "a-document-kinds-block"_L1)
+                return block.text;
         }
-        return lines;
+        qFatal("no block of a document kind");
+    }
+
+    /// The same for every document kind.
+    static QByteArray sampleConfiguration()
+    {
+        QString blocks;
+        for (const vocabulary::DocumentKind &kind : vocabulary::documentKinds)
+            blocks += sampleBlock().replace(u"receiptdoc:"_s, kind.block + u':');
+        return "palvestrin:\n{\n" + blocks.toLatin1() + "};\n";
+    }
+
+    QByteArray print(const QString &job) const
+    {
+        home.configure(sampleConfiguration());
+        writeFile(home.filePath(u"job.xml"_s), job.toUtf8());
+        runProgram(QStringLiteral(PALVESTRIN_PRINT), {u"job.xml"_s, u"paper"_s}, bareEnvironment(home.path()),
+                   home.path());
+        return contentOf(home.filePath(u"paper"_s));
+    }
+
+    /// The first method under which the element with the template prints.
+    QString methodOf(const QString &anchor) const
+    {
+        for (const QStringList &row : matrix) {
+            if (anchorIn(row[0]) == anchor)
+                return methodRows[row.indexOf(u"●"_s) - 2][1];
+        }
+        return {};
+    }
+
+    /// What the matrix says of an element under a method: its attributes, or "" for no dot.
+    QStringList rowsOf(const QString &element, qsizetype method) const
+    {
+        QStringList attributes;
+        for (const QStringList &row : matrix) {
+            if (row[0].startsWith(u'[' + element + u']') && row.value(2 + method) == u"●"_s)
+                attributes += row[1];
+        }
+        return attributes;
     }
 
 private Q_SLOTS:
@@ -122,85 +135,145 @@ private Q_SLOTS:
             const QString path = vocabulary::findDocumentKind(QString(method.kind))->path();
             expected += QStringList{method.name, method.title, method.kind, path};
         }
-        QCOMPARE(tableOf(sectionOf(jobFormat, u"## Print methods"_s)), expected);
+        QList<QStringList> written;
+        for (const QStringList &row : methodRows)
+            written += row.sliced(1);
+        QCOMPARE(written, expected);
     }
 
-    void sections()
+    void theMatrixHasTheLettersOfTheMethods()
     {
-        QCOMPARE(firstTwoColumns(tableOf(sectionOf(jobFormat, u"## Sections"_s))),
-                 elementsAndAttributes(vocabulary::sectionElements));
+        QStringList letters{u"element"_s, u"attributes"_s};
+        for (const QStringList &row : methodRows)
+            letters += row[0];
+        QVERIFY(jobFormat.contains(u"\n| "_s + letters.join(u" | "_s) + u" |\n"_s));
     }
 
-    void theCustomer()
+    /// Every element of every method has its dot, and every dot its element.
+    void theMatrixIsTheVocabulary()
     {
-        QList<QStringList> expected;
-        for (const vocabulary::Attribute &attribute : vocabulary::customerAttributes)
-            expected += QStringList{attribute.name, nameOfFlag(attribute.flag)};
-        QCOMPARE(firstTwoColumns(tableOf(sectionOf(jobFormat, u"### The customer"_s))), expected);
-    }
-
-    void elements_data()
-    {
-        QTest::addColumn<QList<QStringList>>("expected");
-        for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
-            if (!method.document.elements.empty())
-                QTest::addRow("%s", method.name.data()) << elementsAndAttributes(method.document.elements);
+        qsizetype dots = 0;
+        for (qsizetype i = 0; i < methodRows.size(); ++i) {
+            for (const auto *element : elementsOf(vocabulary::printMethods[i].document)) {
+                QCOMPARE(rowsOf(element->name, i), QStringList{attributesCell(*element)});
+                ++dots;
+            }
         }
+        qsizetype written = 0;
+        for (const QStringList &row : matrix)
+            written += row.count(u"●"_s);
+        QCOMPARE(written, dots);
     }
-    void elements()
+
+    void theBlockOfADocumentKindHasEverySetting()
     {
-        const QString heading = u"### `%1`"_s.arg(QString::fromLatin1(QTest::currentDataTag()));
-        QTEST(firstTwoColumns(tableOf(sectionOf(jobFormat, heading))), "expected");
+        const QString text = sampleBlock();
+        for (const vocabulary::DocumentSetting &setting : vocabulary::documentSettings)
+            QCOMPARE(text.count(u' ' + setting.name + " = \""_L1), 1);
     }
 
     void samples_data()
     {
-        QTest::addColumn<QString>("method");
         QTest::addColumn<QString>("job");
-        QTest::addColumn<QStringList>("paper");
-        const QHash<QString, QString> methodsOfOtherHeadings = {
-            {u"Sections"_s, u"printFullOrderReceipt"_s},
-            {u"The customer"_s, u"printFullOrderInvoice"_s},
-        };
-        static const QRegularExpression piece(
-            uR"((?:^#+ `?(?<heading>[^`\n]*)`?$)|(?:^```xml\n(?<job>.*?)^```$)|(?:^```text\n(?<paper>.*?)^```$))"_s,
-            QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption);
-        QString heading;
+        QTest::addColumn<QString>("paper");
         QString job;
-        for (const QRegularExpressionMatch &match : piece.globalMatch(jobFormat)) {
-            if (match.hasCaptured(u"heading"_s))
-                heading = match.captured(u"heading"_s);
-            else if (match.hasCaptured(u"job"_s))
-                job = match.captured(u"job"_s);
-            else
-                QTest::addRow("%s", qPrintable(heading))
-                    << methodsOfOtherHeadings.value(heading, heading) << job
-                    << match.captured(u"paper"_s).chopped(1).split(u'\n');
+        for (const markdown::Block &block : markdown::blocksOf(jobFormat)) {
+            if (block.kind == "xml"_L1)
+                job = block.text;
+            else if (block.kind == "text"_L1)
+                QTest::addRow("%s", qPrintable(block.heading))
+                    << (job.startsWith("<?xml"_L1)
+                            ? job
+                            : u"<job><method name=\"%1\"/>%2</job>"_s.arg(methodOf(block.heading), job))
+                    << block.text;
         }
     }
     /// Every sample job of the document prints the sample paper below it.
     void samples()
     {
-        QFETCH(QString, method);
         QFETCH(QString, job);
-        const QString whole =
-            job.startsWith("<?xml"_L1) ? job : u"<job><method name=\"%1\"/>%2</job>"_s.arg(method, job);
-        QTEST(print(whole), "paper");
+        QFETCH(QString, paper);
+        QCOMPARE(paperOf(print(job)).split(u'\n'), paper.split(u'\n'));
     }
 
-    void everyMethodHasASample()
+    void everyTemplateHasASample()
     {
-        for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
-            const QString section = sectionOf(jobFormat, u"### `"_s + method.name + u'`');
-            const bool prints = !method.document.elements.empty();
-            QVERIFY2(section.contains("```xml\n"_L1) == prints, method.name.data());
+        const QList<markdown::Block> blocks = markdown::blocksOf(jobFormat);
+        const auto has = [&](const QString &kind, const QString &anchor) {
+            return std::ranges::any_of(blocks, [&](const markdown::Block &block) {
+                return block.kind == kind && block.heading == anchor;
+            });
+        };
+        for (const QStringList &row : matrix) {
+            const QString anchor = anchorIn(row[0]);
+            const bool prints = anchor != "printers"_L1 && anchor != "logo"_L1;
+            QVERIFY2(has(u"paper"_s, anchor) && has(u"text"_s, anchor) == prints, qPrintable(anchor));
         }
+    }
+
+    /// The shown output of a whole job.
+    void outputOfAJob_data()
+    {
+        QTest::addColumn<QString>("job");
+        QTest::addColumn<QByteArray>("bytes");
+        static const QRegularExpression hexadecimal(u"   +[0-9A-F ]+$"_s,
+                                                    QRegularExpression::MultilineOption);
+        QString job;
+        for (markdown::Block block : markdown::blocksOf(outputFormat)) {
+            if (block.kind == "xml"_L1)
+                job = block.text;
+            else if (!job.isEmpty())
+                QTest::addRow("%s", qPrintable(block.heading))
+                    << std::exchange(job, {}) << bytesOf(block.text.remove(hexadecimal));
+        }
+    }
+    void outputOfAJob()
+    {
+        QFETCH(QString, job);
+        QTEST(print(job), "bytes");
+    }
+
+    void hexadecimalBytes()
+    {
+        static const QRegularExpression row(u"^(.*?)   +([0-9A-F ]+)$"_s);
+        static const QRegularExpression count(u"these (\\d+) bytes:\\s*```bytes\n(.*?)```"_s,
+                                              QRegularExpression::DotMatchesEverythingOption);
+        int blocks = 0;
+        for (const QRegularExpressionMatch &block : count.globalMatch(outputFormat)) {
+            qsizetype bytes = 0;
+            for (const QString &line : block.captured(2).split(u'\n', Qt::SkipEmptyParts)) {
+                const QRegularExpressionMatch match = row.match(line);
+                QCOMPARE(QByteArray::fromHex(match.captured(2).toLatin1()), bytesOf(match.captured(1)));
+                bytes += bytesOf(match.captured(1)).size();
+            }
+            QCOMPARE(bytes, block.captured(1).toLongLong());
+            ++blocks;
+        }
+        QCOMPARE(blocks, 2);
+    }
+
+    /// The lines that the document shows centred, printed so: as the company's.
+    void centredLines()
+    {
+        for (const markdown::Block &block : markdown::blocksOf(outputFormat)) {
+            if (block.heading != "centred-lines"_L1 || block.kind != "stream"_L1)
+                continue;
+            for (const QString &line : block.text.split(u'\n', Qt::SkipEmptyParts)) {
+                const QByteArray bytes = bytesOf(line);
+                const QString text = QString::fromUtf8(bytes.sliced(1).chopped(3)).trimmed();
+                const QByteArray printed =
+                    print(u"<j><method name=\"printSold\"/><company name=\"%1\"/></j>"_s.arg(text));
+                QVERIFY2(printed.startsWith("\nj\n" + bytes), bytes);
+            }
+            return;
+        }
+        QFAIL("no centred lines");
     }
 
     /// Or the fuzzer would have to guess them letter by letter.
     void theFuzzersDictionaryHoldsTheVocabulary()
     {
-        const QString dictionary = readDocument(u"tests/fuzz/job.dict"_s);
+        const QString dictionary = markdown::document(u"tests/fuzz/job.dict"_s);
         const auto holds = [&](const QString &entry) {
             QVERIFY2(dictionary.contains(u'"' + entry + "\"\n"_L1), qPrintable(entry));
         };
@@ -221,7 +294,7 @@ private Q_SLOTS:
     void everyExampleIsNamedAfterItsMethod()
     {
         for (const vocabulary::PrintMethod &method : vocabulary::printMethods) {
-            const QString job = readDocument(u"examples/jobs/"_s + method.name + ".xml"_L1);
+            const QString job = markdown::document(u"examples/jobs/"_s + method.name + ".xml"_L1);
             QVERIFY2(job.contains("<method name=\""_L1 + method.name + "\"/>"_L1), method.name.data());
         }
     }
@@ -229,19 +302,30 @@ private Q_SLOTS:
     void linksLeadSomewhere_data()
     {
         QTest::addColumn<QString>("document");
-        for (const QString &document :
-             {u"README.md"_s, u"ARCHITECTURE.md"_s, u"CONTRIBUTING.md"_s, u"SECURITY.md"_s,
-              u"docs/job-format.md"_s, u"docs/configuration.md"_s, u"docs/output-format.md"_s,
-              u"docs/services.md"_s, u"docs/gallery.md"_s})
-            QTest::addRow("%s", qPrintable(document)) << document;
+        const QDir root(sourcePath({}));
+        for (const QString &name : root.entryList({u"*.md"_s}))
+            QTest::addRow("%s", qPrintable(name)) << name;
+        QDirIterator files(sourcePath(u"docs"_s), {u"*.md"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString name = root.relativeFilePath(files.next());
+            QTest::addRow("%s", qPrintable(name)) << name;
+        }
     }
+    /// To a file, and to a heading of it where one is named.
     void linksLeadSomewhere()
     {
         QFETCH(QString, document);
-        const QString folder = QStringLiteral(PALVESTRIN_SOURCE_DIR) + u'/' + document.section(u'/', 0, -2);
-        static const QRegularExpression link(uR"(\]\(([^)#:]+)(#[^)]*)?\))"_s);
-        for (const QRegularExpressionMatch &match : link.globalMatch(readDocument(document)))
-            QVERIFY2(QFile::exists(folder + u'/' + match.captured(1)), qPrintable(match.captured(1)));
+        const QDir folder(sourcePath(document.section(u'/', 0, -2)));
+        static const QRegularExpression link(uR"(\]\((?!\w+:)([^)#]*)(?:#([^)]*))?\))"_s);
+        for (const QRegularExpressionMatch &match : link.globalMatch(markdown::document(document))) {
+            const QString file =
+                match.captured(1).isEmpty() ? sourcePath(document) : folder.filePath(match.captured(1));
+            QVERIFY2(QFile::exists(file), qPrintable(match.captured(0)));
+            const QString target = QDir(sourcePath({})).relativeFilePath(QDir::cleanPath(file));
+            const bool isThere = !match.hasCaptured(2) ||
+                                 markdown::anchorsOf(markdown::document(target)).contains(match.captured(2));
+            QVERIFY2(isThere, qPrintable(match.captured(0)));
+        }
     }
 };
 

@@ -104,16 +104,23 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("expected");
         QTest::newRow("print") << u"palvestrin-print"_s
                                << QStringList{u"usr/bin/palvestrin-print"_s,
+                                              u"usr/share/doc/palvestrin-print/CHANGELOG.md"_s,
                                               u"usr/share/doc/palvestrin-print/README.md"_s,
                                               u"usr/share/doc/palvestrin-print/SECURITY.md"_s,
                                               u"usr/share/doc/palvestrin-print/changelog.gz"_s,
-                                              u"usr/share/doc/palvestrin-print/checks.md"_s,
-                                              u"usr/share/doc/palvestrin-print/configuration.md"_s,
                                               u"usr/share/doc/palvestrin-print/copyright"_s,
-                                              u"usr/share/doc/palvestrin-print/escpos.md"_s,
-                                              u"usr/share/doc/palvestrin-print/job-format.md"_s,
-                                              u"usr/share/doc/palvestrin-print/output-format.md"_s,
-                                              u"usr/share/doc/palvestrin-print/services.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/checks.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/configuration.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/escpos.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/family/services.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/gallery.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/integration.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/job-format.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/languages.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/output-format.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/printers.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/promises.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/quickstart.md"_s,
                                               u"usr/share/man/man1/palvestrin-print.1.gz"_s,
                                               u"usr/share/man/man5/palvestrin.conf.5.gz"_s};
         QTest::newRow("tools") << u"palvestrin-tools"_s
@@ -137,7 +144,7 @@ private Q_SLOTS:
     void everyFileIsInItsPackage()
     {
         QFETCH(QString, package);
-        static const QRegularExpression many(u"/(examples|translations)/"_s);
+        static const QRegularExpression many(u"/(examples|gallery|translations)/"_s);
         QTEST(files(package, many), "expected");
     }
 
@@ -145,6 +152,8 @@ private Q_SLOTS:
     {
         const QStringList all = files(u"palvestrin-print"_s, QRegularExpression(u"(?!)"_s));
         QCOMPARE(all.filter(u"usr/share/doc/palvestrin-print/examples/jobs/print"_s).size(), qsizetype(13));
+        QVERIFY(all.contains(u"usr/share/doc/palvestrin-print/translations/movement-types.txt"_s));
+        QVERIFY(all.contains(u"usr/share/doc/palvestrin-print/docs/gallery/printReport.png"_s));
         QVERIFY(
             all.contains(u"usr/share/doc/palvestrin-print/examples/home/.palvestrin/conf/palvestrin.conf"_s));
         for (const QString &language :

@@ -72,6 +72,12 @@ const QStringList foreignWords{u"寿司"_s,         u"Борщ"_s, u"🍕"_s, u"
                                u"全角ラーメン"_s, u"שלום"_s, u"ﬁ"_s, u"\u200b"_s,      u"€"_s};
 const QStringList controlTexts{u"\""_s, u"Bar \"Roma\""_s, u"one\ntwo"_s, u"\r"_s,
                                u"\t"_s, u"\u001b@"_s,      u"\"@\nJ\n"_s};
+/// Numbers as nobody writes them, and what is nearly one.
+const QStringList oddTexts{u""_s,        u" "_s,     u"x"_s,       u"nan"_s,     u"NaN"_s,     u"-nan"_s,
+                           u"inf"_s,     u"-INF"_s,  u"+inf"_s,    u"1e15"_s,    u"1e0"_s,     u"1e400"_s,
+                           u"-1e-400"_s, u"1e"_s,    u"0x10"_s,    u" 1 "_s,     u"\u00a01"_s, u"1 000"_s,
+                           u".5"_s,      u"5."_s,    u"."_s,       u"-0"_s,      u"+1"_s,      u"1,0"_s,
+                           u"--1"_s,     u"1,2,3"_s, u"0.00001"_s, u"1.234,50"_s};
 const QStringList movementTypes{u"Payment"_s, u"Invoice"_s, u"Receipt"_s};
 
 /// A text for an attribute.
@@ -83,7 +89,7 @@ public:
     QString of(const Attribute &attribute)
     {
         if (options.gaps && dice.chance(4))
-            return dice.oneOf(QStringList{u""_s, u" "_s, u"x"_s, u"nan"_s, u"1e15"_s, u"0x10"_s, u"inf"_s});
+            return dice.oneOf(oddTexts);
         return ofType(attribute.type);
     }
 
@@ -277,7 +283,8 @@ class ConfigurationWriter
 {
 public:
     ConfigurationWriter(quint32 seed, const RandomConfigurationOptions &options)
-        : dice(seed), isSensible(options.sensible)
+        : dice(seed), isSensible(options.sensible),
+          widths(options.extreme ? oddCounts + extremeWidths : oddCounts)
     {
     }
 
@@ -311,8 +318,7 @@ private:
             return isSensible || dice.chance(90) ? QString::number(dice.between(0, 8))
                                                  : dice.oneOf(oddCounts);
         case vocabulary::ValueKind::Width:
-            return isSensible || dice.chance(90) ? QString::number(dice.between(32, 64))
-                                                 : dice.oneOf(oddCounts);
+            return isSensible || dice.chance(90) ? QString::number(dice.between(32, 64)) : dice.oneOf(widths);
         default:
             return u"plain"_s;
         }
@@ -324,8 +330,12 @@ private:
     const QStringList oddCounts{u"0"_s,  u"-3"_s, u"abc"_s, u" 8 "_s,         u"8 cm"_s, u"07"_s,
                                 u"24"_s, u"12"_s, u"120"_s, u"99999999999"_s, u"2.5"_s,  u""_s};
 
+    const QStringList extremeWidths{u"3000000"_s, u"2147483647"_s, u"2147483648"_s, u"-2147483648"_s,
+                                    u"+40"_s};
+
     Dice dice;
     const bool isSensible;
+    const QStringList widths; ///< odd ones
 };
 
 } // namespace

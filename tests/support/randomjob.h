@@ -26,6 +26,7 @@ QByteArray randomJob(quint32 seed, const RandomJobOptions &options = {});
 struct RandomConfigurationOptions
 {
     bool sensible = false; ///< every setting there, widths that leave a description room, only true and false
+    bool extreme = false;  ///< among the odd ones, widths beyond any paper and beyond 32 bits
 };
 
 /// A configuration in the text form.
