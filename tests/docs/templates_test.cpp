@@ -5,6 +5,7 @@
 #include "configuredhome.h"
 #include "program.h"
 #include "randomjob.h"
+#include "rounds.h"
 #include "templatepaper.h"
 #include "wholefile.h"
 
@@ -133,7 +134,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, locale);
         QFETCH(quint32, firstSeed);
-        constexpr quint32 jobs = 600;
+        constexpr quint32 jobs = rounds(600);
         QTranslator translator;
         const Catalogue catalogue = locale.isEmpty() ? Catalogue() : wordsOf(locale);
         if (!locale.isEmpty()) {
@@ -150,7 +151,7 @@ private Q_SLOTS:
 
     void theTemplatesPrintWhatTheProgramPrints()
     {
-        constexpr quint32 jobs = 100;
+        constexpr quint32 jobs = rounds(100);
         for (quint32 seed = 50000; seed < 50000 + jobs; ++seed) {
             const QByteArray expected = byTemplates(randomJob(seed), configurationOf(seed), {});
             const QByteArray actual = printedByTheProgram(seed);

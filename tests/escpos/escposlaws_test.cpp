@@ -6,6 +6,7 @@
 #include "decoder.h"
 #include "escposprinter.h"
 #include "randomjob.h"
+#include "rounds.h"
 #include "witnessprinter.h"
 
 #include <QBuffer>
@@ -17,7 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int randomJobs = 2000;
+constexpr int randomJobs = rounds(2000);
 
 /// The methods that a receipt printer prints.
 QStringList methods()

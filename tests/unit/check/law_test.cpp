@@ -7,6 +7,7 @@
 #include "program.h"
 #include "pvconfiguration.h"
 #include "randomjob.h"
+#include "rounds.h"
 #include "temporaryhome.h"
 #include "wholefile.h"
 
@@ -20,8 +21,8 @@ using vocabulary::Element;
 
 namespace {
 
-constexpr quint32 cleanJobs = 2000;
-constexpr quint32 spoiledJobs = 1000;
+constexpr quint32 cleanJobs = rounds(2000);
+constexpr quint32 spoiledJobs = rounds(1000);
 
 /// What is told of figures and of the order has no part in the law: it takes nothing from the paper.
 const QStringList aboutFigures{u"row-sum"_s, u"total-sum"_s, u"wrong-order"_s, u"missing-titles"_s};
