@@ -1,7 +1,7 @@
 #pragma once
 
-/// How often a test of random inputs goes round: `whole` times, and a tenth of that under the sanitizers, which
-/// take ten times as long for each.
+/// How often a test of random inputs goes round: `whole` times, and a tenth of that under the sanitizers,
+/// which take ten times as long for each.
 constexpr int rounds(int whole)
 {
 #ifdef __SANITIZE_ADDRESS__
