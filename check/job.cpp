@@ -60,7 +60,10 @@ public:
     bool endElement(const QString &namespaceUri, const QString &localName, const QString &qName) override;
     bool internalEntityDecl(const QString &name, const QString &value) override;
     bool characters(const QString &characters) override;
-    bool comment(const QString &words) override;
+    bool comment(const QString &) override { return goOnAt(text.nextPlace()); }
+    bool startCDATA() override;
+    bool endCDATA() override { return goOnAt(text.place()); } // the reader is a character ahead
+    bool processingInstruction(const QString &, const QString &) override { return goOnAt(text.place()); }
     bool skippedEntity(const QString &name) override;
     bool fatalError(const QXmlParseException &exception) override;
 
@@ -70,6 +73,7 @@ public:
 private:
     Finding fault(const QXmlParseException &exception) const;
     void leaveMarkup();
+    bool goOnAt(Place place);
 
     PlacedSource &text;
     StrictPass &strict;
@@ -120,12 +124,10 @@ bool JobChecker::endElement(const QString &namespaceUri, const QString &localNam
     return JobHandler::endElement(namespaceUri, localName, qName);
 }
 
-/// Text begins behind the character where the reader is.
 void JobChecker::leaveMarkup()
 {
-    text.leaveTag();
     isTextTold = false;
-    textBegin = text.nextPlace();
+    goOnAt(text.nextPlace());
 }
 
 bool JobChecker::internalEntityDecl(const QString &name, const QString &value)
@@ -149,16 +151,27 @@ bool JobChecker::characters(const QString &characters)
     return true;
 }
 
-bool JobChecker::comment(const QString &)
+/// Text goes on behind markup.
+bool JobChecker::goOnAt(Place place)
 {
-    textBegin = text.nextPlace();
+    text.leaveTag();
+    textBegin = place;
     return true;
+}
+
+/// Told when the section is read; a "<" in it hides where it began, and the text is told there.
+bool JobChecker::startCDATA()
+{
+    Place begin = text.tagPlace();
+    begin.column += QLatin1StringView("<![CDATA[").size();
+    return goOnAt(begin);
 }
 
 bool JobChecker::skippedEntity(const QString &name)
 {
     if (text.isInTag())
         return true; // told with its attribute
+    goOnAt(text.nextPlace());
     const Place end = text.place();
     const Place begin{end.line, qMax<qint64>(1, end.column - name.size() - 1)};
     sink.take({named("undeclared-entity"), begin, u"\"&%1;\" is declared nowhere, and vanishes"_s.arg(name),

@@ -134,6 +134,15 @@ void SpoiledJobsTest::spoiled_data()
         u"\"number\" is given twice: \"4\" and \"5\""_s);
     row(u"text-ignored"_s, "<total price=\"92,00\"/>", "<total price=\"92,00\">\n  ¦92,00</total>",
         u"\"92,00\" stands between tags"_s);
+    row(u"text-ignored"_s, "<total price=\"92,00\"/>",
+        "<total price=\"92,00\">  <![CDATA[  ]]> <?note two\nlines?> ¦92,00</total>",
+        u"\"92,00\" stands between tags"_s);
+    row(u"text-ignored"_s, "<total price=\"92,00\"/>", "<total price=\"92,00\">  <![CDATA[ ¦92,00]]></total>",
+        u"\"92,00\" stands between tags"_s);
+    row(u"undeclared-entity"_s, "<total price=\"92,00\"/>",
+        "<total price=\"92,00\"><!-- <paid --> ¦&euro; </total>", u"\"&euro;\" is declared nowhere"_s);
+    row(u"text-ignored"_s, "<total price=\"92,00\"/>", "<total price=\"92,00\"> &euro; ¦92,00</total>",
+        u"\"92,00\" stands between tags"_s, {u"undeclared-entity"_s});
 
     // Commands to the printer.
     row(u"quote"_s, "\"Caffè\"", "'Caffè ¦\"Roma\"'", u"ends the line early"_s);
