@@ -38,7 +38,7 @@ private:
         names.removeDuplicates();
         return names;
     }
-    static bool isMeant(QString name)
+    static bool isMeant(const QString &name)
     {
         static const QStringList names = known();
         return name.endsWith("palvestrin"_L1) || !meantBy(name, names).isEmpty();

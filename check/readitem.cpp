@@ -22,7 +22,8 @@ QString latin1(const QByteArray &bytes)
 Place wordPlace(const Token &token, const ReadName &name)
 {
     const QByteArrayView text = token.bytes.trimmed();
-    return placeOf(token.positionOf(text.end() - token.bytes.begin() - name.word.size()));
+    const qsizetype textEnd = text.data() - token.bytes.data() + text.size();
+    return placeOf(token.positionOf(textEnd - name.word.size()));
 }
 
 bool beginsAsRemark(const QByteArray &text)

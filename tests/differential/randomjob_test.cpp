@@ -93,8 +93,7 @@ private Q_SLOTS:
         options.strangers = options.controls = options.gaps = false;
         visitElements(options, [](const auto &document, const QString &name, const auto &attributes) {
             const vocabulary::Element *element = elementOf(document, name);
-            if (!element)
-                QFAIL(qPrintable(name));
+            QVERIFY2(element, qPrintable(name));
             for (const QXmlStreamAttribute &attribute : attributes)
                 QVERIFY2(reads(*element, attribute.name().toString()), qPrintable(name));
             for (const vocabulary::Attribute &row : element->attributes)

@@ -134,6 +134,8 @@ QByteArray spoiled(QByteArray content, QRandomGenerator &random)
         if (delimiters.contains(content[at]))
             places += at;
     }
+    if (places.isEmpty())
+        return content;
     const qsizetype place = places[random.bounded(int(places.size()))];
     if (content[place] == '"' || random.bounded(2)) // beside a quote it would change the value itself
         return content.remove(place, 1);

@@ -21,7 +21,7 @@ QByteArray spoiledJob(const QString &method, const QByteArray &from, const QByte
 {
     QByteArray job = exampleJob(method);
     if (job.count(from) != 1)
-        qFatal("\"%s\" stands %lld times in the example", from.constData(), qint64(job.count(from)));
+        qFatal("\"%s\" stands %d times in the example", from.constData(), int(job.count(from)));
     return job.replace(from, to);
 }
 

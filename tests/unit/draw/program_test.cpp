@@ -41,7 +41,7 @@ int codeOf(ExitCode code)
 
 } // namespace
 
-class ProgramTest : public QObject
+class DrawProgramTest : public QObject
 {
     Q_OBJECT
 
@@ -246,5 +246,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ProgramTest)
+QTEST_GUILESS_MAIN(DrawProgramTest)
 #include "program_test.moc"
