@@ -3,6 +3,7 @@
 #include "applicationkeys.h"
 #include "columns.h"
 #include "commands.h"
+#include "copies.h"
 #include "localeoutput.h"
 #include "logo.h"
 #include "printmethods.h"
@@ -153,23 +154,11 @@ void EscPosPrinterDriver::startSection()
     sectionIsOpen = true;
     rowsPrinted = 0;
     pageRows = paperRows;
-    copies = configuredCopies();
+    copies = configuredCopies(currentMethod, *configuration);
     line.clear();
     if (copies > 1)
         spool.start();
     reset();
-}
-
-int EscPosPrinterDriver::configuredCopies() const
-{
-    const vocabulary::PrintMethod *method = vocabulary::findPrintMethod(currentMethod);
-    const vocabulary::DocumentKind *kind =
-        method ? vocabulary::findDocumentKind(QString(method->kind)) : nullptr;
-    if (!kind)
-        return 1;
-    const QString block = (kind->hasCopyNumber ? *kind : vocabulary::fallbackKind).path();
-    const int number = configuration->getStrValue(block + vocabulary::copyNumberSetting).toInt();
-    return std::clamp(number, 1, maxCopies);
 }
 
 void EscPosPrinterDriver::endSection()

@@ -26,7 +26,6 @@
 class EscPosPrinterDriver : public PrinterDriver
 {
 public:
-    static constexpr int maxCopies = 99;
     static constexpr int maxPageRows = 1000; ///< a larger `paperRows` is no page, and fills up nothing
 
     /// Empties or makes the file at once. `profile` must outlive the printer.
@@ -78,7 +77,6 @@ private:
         Mode mode;
     };
 
-    int configuredCopies() const;
     void openDrawerOnce();
     void closeSection();
     void fillUpPage();
