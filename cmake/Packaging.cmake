@@ -13,18 +13,21 @@ palvestrin_compressed(${PROJECT_SOURCE_DIR}/packaging/changelog changelog.gz)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 # The other packages depend on this version of palvestrin-print, and their documents are its documents.
-foreach(component tools desktop)
+foreach(component tools desktop cups)
   set(link ${CMAKE_CURRENT_BINARY_DIR}/packaging/palvestrin-${component})
   file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/packaging)
   file(CREATE_LINK palvestrin-print ${link} SYMBOLIC)
   install(FILES ${link} DESTINATION ${CMAKE_INSTALL_DATADIR}/doc COMPONENT ${component})
 endforeach()
 
+install(FILES ${PROJECT_SOURCE_DIR}/packaging/palvestrin-cups.lintian-overrides
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME palvestrin-cups COMPONENT cups)
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "Palvestrin Print <print@palvestrin.example>")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
-set(CPACK_COMPONENTS_ALL print tools desktop)
+set(CPACK_COMPONENTS_ALL print tools desktop cups)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SOURCE palvestrin-print)
@@ -55,7 +58,6 @@ print renderer, completes them in bash and zsh, shows on a terminal what a
 print job prints, and prints jobs on ESC/POS receipt printers. It needs no GUI
 library.")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "palvestrin-print (= ${PROJECT_VERSION})")
-set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS palvestrin-desktop)
 
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME palvestrin-desktop)
 set(CPACK_DEBIAN_DESKTOP_DESCRIPTION
@@ -67,5 +69,15 @@ program palvestrin-draw draws the paper of a print job as PNG, PDF or SVG.
 This package is for people with a screen; a till does without it.")
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS
   "palvestrin-print (= ${PROJECT_VERSION}), palvestrin-tools (= ${PROJECT_VERSION}), fonts-dejavu-core")
+
+set(CPACK_DEBIAN_CUPS_PACKAGE_NAME palvestrin-cups)
+set(CPACK_DEBIAN_CUPS_DESCRIPTION
+"receipt printers for CUPS, with a backend that knows what happened
+The backend palvestrin asks receipt printers whether a ticket is on paper,
+prints none twice, and has a person look for what nobody knows. The package
+has models for receipt printers, too.")
+set(CPACK_DEBIAN_CUPS_PACKAGE_DEPENDS "palvestrin-print (= ${PROJECT_VERSION}), cups")
+set(CPACK_DEBIAN_CUPS_PACKAGE_ENHANCES palvestrin-tools)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "palvestrin-desktop, palvestrin-cups")
 
 include(CPack)

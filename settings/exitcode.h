@@ -19,6 +19,10 @@ enum class ExitCode {
     TooLarge = 10,
     Warnings = 11,
     Errors = 12,
+    NotConfirmed = 13,
+    StillWaiting = 14,
+    Unknown = 15,
+    PrintFailed = 16,
 };
 
 struct ExitCodeMeaning
@@ -54,4 +58,11 @@ inline constexpr std::array exitCodeMeanings{
                     QLatin1StringView("The picture would be too large; nothing was written.")},
     ExitCodeMeaning{ExitCode::Warnings, QLatin1StringView("The check found warnings, and no errors.")},
     ExitCodeMeaning{ExitCode::Errors, QLatin1StringView("The check found errors.")},
+    ExitCodeMeaning{ExitCode::NotConfirmed,
+                    QLatin1StringView("It was sent to a printer that does not confirm what is on paper.")},
+    ExitCodeMeaning{ExitCode::StillWaiting,
+                    QLatin1StringView("It is not printed yet; the print server keeps it.")},
+    ExitCodeMeaning{ExitCode::Unknown,
+                    QLatin1StringView("It is held, for nobody knows whether it is on paper.")},
+    ExitCodeMeaning{ExitCode::PrintFailed, QLatin1StringView("It is not printed, and will not be.")},
 };

@@ -59,6 +59,8 @@ struct Command
     /// Trouble is thrown as a CommandError.
     ExitCode (*run)(const CommandLine &line) = nullptr;
     std::span<const Command *const> commands = {};
+    /// That of `commands` which runs where none is named; null where one must be.
+    const Command *usual = nullptr;
 };
 
 /// Every command has it.

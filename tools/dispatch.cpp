@@ -101,6 +101,9 @@ ExitCode dispatch(const Command &group, const QString &program, const QByteArray
 {
     if (group.commands.empty())
         return runOne(group, program, words);
+    const bool isNamed = !words.isEmpty() && (!words.first().startsWith("--") || words.first() == "--help");
+    if (group.usual && !isNamed)
+        return dispatch(*group.usual, program + u' ' + group.usual->name, words);
     if (words.isEmpty())
         throw CommandError(ExitCode::WrongUsage,
                            u"the command is missing\n\n%1"_s.arg(commandList(group, program).chopped(1)));

@@ -5,6 +5,8 @@
 #include "console.h"
 #include "dispatch.h"
 #include "preview.h"
+#include "print.h"
+#include "printers.h"
 #include "render.h"
 
 #include <iostream>
@@ -13,7 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr const Command *commands[] = {&checkCommand, &configCommand, &previewCommand, &renderCommand};
+constexpr const Command *commands[] = {&checkCommand, &configCommand,   &previewCommand,
+                                       &printCommand, &printersCommand, &renderCommand};
 
 ExitCode run(const QByteArrayList &words)
 {

@@ -14,6 +14,8 @@ class DebianTest : public QObject
 
 private:
     const QTemporaryDir folder;
+    const QStringList packages{u"palvestrin-print"_s, u"palvestrin-tools"_s, u"palvestrin-desktop"_s,
+                               u"palvestrin-cups"_s};
     const QStringList environment = {u"PATH="_s + qEnvironmentVariable("PATH"), u"HOME="_s + folder.path(),
                                      u"LC_ALL=C.UTF-8"_s};
 
@@ -66,7 +68,7 @@ private Q_SLOTS:
 
     void versions()
     {
-        for (const QString &package : {u"palvestrin-print"_s, u"palvestrin-tools"_s, u"palvestrin-desktop"_s})
+        for (const QString &package : packages)
             QCOMPARE(field(package, u"Version"_s), QStringLiteral(PACKAGE_VERSION));
     }
 
@@ -86,7 +88,7 @@ private Q_SLOTS:
         static const QRegularExpression gui(u"gui|widgets|libx11|libgl|desktop"_s);
         QVERIFY2(!depends.contains(gui), qPrintable(depends));
         QCOMPARE(field(u"palvestrin-tools"_s, u"Recommends"_s), QString()); // apt would install what it names
-        QCOMPARE(field(u"palvestrin-tools"_s, u"Suggests"_s), u"palvestrin-desktop"_s);
+        QCOMPARE(field(u"palvestrin-tools"_s, u"Suggests"_s), u"palvestrin-desktop, palvestrin-cups"_s);
     }
 
     void theWindowIsAPackageOfItsOwn()
@@ -96,6 +98,16 @@ private Q_SLOTS:
         QVERIFY2(depends.contains("libqt6widgets6"_L1), qPrintable(depends));
         QVERIFY2(depends.contains("libqt6svg6"_L1), qPrintable(depends));
         QVERIFY2(depends.contains("fonts-dejavu-core"_L1), qPrintable(depends));
+    }
+
+    /// A backend that others may not run runs as root, and so may open every device.
+    void theBackendIsForThePrintServerAlone()
+    {
+        QVERIFY(contents(u"palvestrin-cups"_s)
+                    .contains(u"-rwxr--r-- root/root usr/lib/cups/backend/palvestrin"_s));
+        const QString depends = field(u"palvestrin-cups"_s, u"Depends"_s);
+        QVERIFY2(depends.contains("palvestrin-print (= " PACKAGE_VERSION ")"_L1), qPrintable(depends));
+        QVERIFY2(depends.contains(QRegularExpression(u"(^|, )cups(,|$)"_s)), qPrintable(depends));
     }
 
     void everyFileIsInItsPackage_data()
@@ -119,6 +131,7 @@ private Q_SLOTS:
                                               u"usr/share/doc/palvestrin-print/docs/languages.md"_s,
                                               u"usr/share/doc/palvestrin-print/docs/output-format.md"_s,
                                               u"usr/share/doc/palvestrin-print/docs/printers.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/printing.md"_s,
                                               u"usr/share/doc/palvestrin-print/docs/promises.md"_s,
                                               u"usr/share/doc/palvestrin-print/docs/quickstart.md"_s,
                                               u"usr/share/man/man1/palvestrin-print.1.gz"_s,
@@ -130,6 +143,7 @@ private Q_SLOTS:
                                               u"usr/share/man/man1/palvestrin-check.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin-config.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin-preview.1.gz"_s,
+                                              u"usr/share/man/man1/palvestrin-printers.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin-render.1.gz"_s,
                                               u"usr/share/man/man1/palvestrin.1.gz"_s,
                                               u"usr/share/palvestrin/printjob.rng"_s,
@@ -140,6 +154,19 @@ private Q_SLOTS:
                                                 u"usr/share/doc/palvestrin-desktop -> palvestrin-print"_s,
                                                 u"usr/share/man/man1/palvestrin-draw.1.gz"_s,
                                                 u"usr/share/man/man1/palvestrin-settings.1.gz"_s};
+        QTest::newRow("cups") << u"palvestrin-cups"_s
+                              << QStringList{u"usr/lib/cups/backend/palvestrin"_s,
+                                             u"usr/lib/systemd/system/cups.service.d/palvestrin.conf"_s,
+                                             u"usr/share/cups/mime/palvestrin.convs"_s,
+                                             u"usr/share/cups/mime/palvestrin.types"_s,
+                                             u"usr/share/doc/palvestrin-cups -> palvestrin-print"_s,
+                                             u"usr/share/lintian/overrides/palvestrin-cups"_s,
+                                             u"usr/share/man/man7/palvestrin-cups.7.gz"_s,
+                                             u"usr/share/ppd/palvestrin/pv58mm.ppd"_s,
+                                             u"usr/share/ppd/palvestrin/pv80mm.ppd"_s,
+                                             u"usr/share/ppd/palvestrin/pv80mm42.ppd"_s,
+                                             u"usr/share/ppd/palvestrin/pvgener.ppd"_s,
+                                             u"usr/share/ppd/palvestrin/pvline.ppd"_s};
     }
     void everyFileIsInItsPackage()
     {
@@ -163,14 +190,14 @@ private Q_SLOTS:
 
     void everybodyMayReadAndNobodyWrite()
     {
-        for (const QString &package :
-             {u"palvestrin-print"_s, u"palvestrin-tools"_s, u"palvestrin-desktop"_s}) {
+        for (const QString &package : packages) {
             const QStringList lines = contents(package);
             QVERIFY(!lines.isEmpty());
             for (const QString &line : lines) {
                 static const QRegularExpression right(
                     u"^(drwxr-xr-x root/root .*/|-rwxr-xr-x root/root usr/bin/.*[^/]|"
-                    u"-rw-r--r-- root/root usr/share/.*[^/]|lrwxrwxrwx root/root .* -> .*)$"_s);
+                    u"-rwxr--r-- root/root usr/lib/cups/backend/palvestrin|"
+                    u"-rw-r--r-- root/root usr/(share|lib/systemd)/.*[^/]|lrwxrwxrwx root/root .* -> .*)$"_s);
                 QVERIFY2(line.contains(right) || line == "drwxr-xr-x root/root "_L1, qPrintable(line));
             }
         }
@@ -191,11 +218,12 @@ private Q_SLOTS:
     /// No error, no warning.
     void lintianFindsNothing()
     {
-        const ProgramRun run = runProgram(
-            u"lintian"_s,
-            {u"--allow-root"_s, u"--tag-display-limit"_s, u"0"_s, packagePath(u"palvestrin-print"_s),
-             packagePath(u"palvestrin-tools"_s), packagePath(u"palvestrin-desktop"_s)},
-            environment, folder.path(), 240'000);
+        const ProgramRun run =
+            runProgram(u"lintian"_s,
+                       {u"--allow-root"_s, u"--tag-display-limit"_s, u"0"_s,
+                        packagePath(u"palvestrin-print"_s), packagePath(u"palvestrin-tools"_s),
+                        packagePath(u"palvestrin-desktop"_s), packagePath(u"palvestrin-cups"_s)},
+                       environment, folder.path(), 240'000);
         QCOMPARE(run.standardOutput + run.standardError, QByteArray());
         QCOMPARE(run.failure, QString());
     }

@@ -1,0 +1,334 @@
+#include "backend.h"
+
+#include "abandonedjobs.h"
+#include "delivery.h"
+#include "devicelist.h"
+#include "guard.h"
+#include "jobrecord.h"
+#include "scheduler.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <cups/backend.h>
+#include <cups/cups.h>
+#include <memory>
+#include <optional>
+#include <thread>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+std::string environment(const char *name, const char *otherwise = "")
+{
+    const char *const value = std::getenv(name);
+    return value && *value ? value : otherwise;
+}
+
+/// What the scheduler says about the job on the command line.
+struct Job
+{
+    int number;
+    std::string title;
+    int copies;
+    std::string uuid; ///< "" when nobody would start it again
+    const char *file; ///< null: standard input
+};
+
+std::string uuidIn(const char *words)
+{
+    cups_option_t *options = nullptr;
+    const int count = cupsParseOptions(words, 0, &options);
+    const char *const uuid = cupsGetOption("job-uuid", count, options);
+    const std::string result = uuid ? uuid : "";
+    cupsFreeOptions(count, options);
+    return result;
+}
+
+Job jobIn(int argc, char **argv)
+{
+    Job job{std::atoi(argv[1]), argv[3], 1, uuidIn(argv[5]), nullptr};
+    if (argc == 7) { // who writes to standard input has made the copies already
+        job.copies = std::max(1, std::atoi(argv[4]));
+        job.file = argv[6];
+    }
+    return job;
+}
+
+std::optional<Ticket> ticketOf(const Job &job)
+{
+    std::optional<Ticket> ticket =
+        job.file ? Ticket::fromFile(job.file) : Ticket::fromStandardInput(environment("TMPDIR", "/tmp"));
+    if (ticket)
+        ticket->setCopies(job.copies);
+    return ticket;
+}
+
+/// One run of the backend for one job.
+class Run
+{
+public:
+    Run(Job itsJob, DeviceAddress itsAddress)
+        : job(std::move(itsJob)), address(std::move(itsAddress)), folder(recordFolder())
+    {
+        if (!folder.empty() && !job.uuid.empty())
+            record = std::make_unique<JobRecord>(folder, job.uuid, identityOf(getppid()));
+    }
+
+    int print();
+
+private:
+    static std::string recordFolder()
+    {
+        const std::string cache = environment("CUPS_CACHEDIR");
+        return cache.empty() ? "" : cache + "/palvestrin";
+    }
+
+    enum class Task {
+        Print,
+        PrintCopy, ///< a person wants it again
+        Conclude,  ///< it needs no printing
+        Hold,      ///< a person must look first
+    };
+
+    Task task() const;
+    Task taskAfterEnd() const;
+    int deliver(const Ticket &ticket, Interruptions &interrupted);
+    int conclude(Delivery::Outcome outcome, const std::string &why);
+    int concludeEarlier();
+    int concludePrinted();
+    int concludeUnconfirmed();
+    int concludeNotPrinted(const std::string &why);
+    int concludeUnknown(const std::string &why);
+    int concludeStopped();
+    int afterDeath();
+    void handBack();
+    bool begin();
+    void tellUnknown(const std::string &why);
+
+    const Job job;
+    const DeviceAddress address;
+    const std::string folder;
+    std::unique_ptr<JobRecord> record = std::make_unique<JobRecord>();
+    Report report;
+    SharedStage stage;
+    const bool hasStandIn = !environment("CLASS").empty();
+};
+
+int Run::print()
+{
+    if (!record->isKept()) {
+        report.error("Not printed: the folder " + folder +
+                     " cannot be written. Mend that, then enable the printer.");
+        return CUPS_BACKEND_STOP;
+    }
+    const Task what = task();
+    if (what == Task::Conclude)
+        return concludeEarlier();
+    if (what == Task::Hold)
+        return concludeUnknown("the print server was interrupted while it was printed");
+    std::optional<Ticket> ticket = ticketOf(job);
+    if (!ticket) {
+        report.error("Not printed: the data of the job cannot be read, or not be kept until they are "
+                     "printed. Look for "
+                     "room on the disk of the print server, then release the job.");
+        return CUPS_BACKEND_HOLD;
+    }
+    if (ticket->size() == 0) {
+        report.warning("The job is empty: there was nothing to print.");
+        record->set(JobRecord::State::Unconfirmed);
+        return CUPS_BACKEND_OK;
+    }
+    if (what == Task::PrintCopy)
+        ticket->markAsCopy();
+    return runGuarded([&](Interruptions &interrupted) { return deliver(*ticket, interrupted); },
+                      [&] { return afterDeath(); });
+}
+
+/// What is to be done with a job that was started before.
+Run::Task Run::task() const
+{
+    using State = JobRecord::State;
+    switch (record->state()) {
+    case State::New:
+        return Task::Print;
+    case State::Sending:
+        return Task::Hold;
+    case State::Held: // a scheduler that died may have forgotten that it holds the job
+        return record->isOfThisScheduler() && scheduler::hasOnce(job.number) ? Task::PrintCopy : Task::Hold;
+    case State::PrintedUntold:
+    case State::UnconfirmedUntold:
+        return Task::Conclude;
+    case State::Printed:
+    case State::Unconfirmed:
+        break;
+    }
+    return taskAfterEnd();
+}
+
+/// Somebody wants a job anew whose end was noted; where it was not, the scheduler died before it could. It
+/// notes whole seconds.
+Run::Task Run::taskAfterEnd() const
+{
+    const std::optional<time_t> end = scheduler::endOf(job.number);
+    if (!end)
+        return Task::Hold;
+    if (!scheduler::hasOnce(job.number))
+        return Task::Conclude;
+    if (*end == record->since())
+        return record->isOfThisScheduler() ? Task::PrintCopy : Task::Hold;
+    return *end > record->since() ? Task::PrintCopy : Task::Conclude;
+}
+
+/// For a job that needs no printing.
+int Run::concludeEarlier()
+{
+    report.info("It was sent before, and is not printed again.");
+    const JobRecord::State state = record->state();
+    const bool isPrinted = state == JobRecord::State::Printed || state == JobRecord::State::PrintedUntold;
+    return isPrinted ? concludePrinted() : concludeUnconfirmed();
+}
+
+int Run::deliver(const Ticket &ticket, Interruptions &interrupted)
+{
+    interrupted.onGuardGone = [this] { scheduler::hold(job.number); };
+    const Delivery::Surroundings surroundings{report, folder, interrupted, [this] { return begin(); },
+                                              hasStandIn};
+    std::optional<Delivery> delivery(std::in_place, address, ticket, surroundings);
+    const Delivery::Outcome outcome = delivery->run();
+    const std::string why = delivery->why();
+    delivery.reset(); // others have their turn
+    const bool isStopped = outcome == Delivery::Outcome::Stopped || interrupted.isToStop();
+    const int code =
+        isStopped && outcome != Delivery::Outcome::Printed ? concludeStopped() : conclude(outcome, why);
+    if (!folder.empty())
+        saveAbandonedJobs(folder);
+    interrupted.wait(-1, 0, 0);
+    if (interrupted.isOrphan() && code != CUPS_BACKEND_HOLD && code != CUPS_BACKEND_CANCEL)
+        handBack();
+    return code;
+}
+
+/// A scheduler whose backend was killed takes the job for printed as soon as nobody holds its pipe. So
+/// without its guard the backend has the job held at once, whatever happens to itself. When all is well it is
+/// released: the scheduler starts the job again, and the record says how it ended.
+void Run::handBack()
+{
+    if (record->state() == JobRecord::State::Printed)
+        record->set(JobRecord::State::PrintedUntold);
+    if (record->state() == JobRecord::State::Unconfirmed)
+        record->set(JobRecord::State::UnconfirmedUntold);
+    scheduler::release(job.number);
+}
+
+bool Run::begin()
+{
+    if (!record->set(JobRecord::State::Sending))
+        return false;
+    stage.set(Stage::Sending);
+    return true;
+}
+
+int Run::conclude(Delivery::Outcome outcome, const std::string &why)
+{
+    switch (outcome) {
+    case Delivery::Outcome::Printed:
+        return concludePrinted();
+    case Delivery::Outcome::Unconfirmed:
+        return concludeUnconfirmed();
+    case Delivery::Outcome::NotPrinted:
+        return concludeNotPrinted(why);
+    case Delivery::Outcome::Unknown:
+        return concludeUnknown(why);
+    case Delivery::Outcome::Stopped:
+        break;
+    }
+    return concludeStopped();
+}
+
+/// The scheduler stops the backend: it may start the job again by itself, so the record does not say that
+/// somebody was told.
+int Run::concludeStopped()
+{
+    report.info(stage.get() == Stage::NothingSent ? "Stopped before anything was printed."
+                                                  : "Stopped; a part of it may be on paper.");
+    return CUPS_BACKEND_CANCEL;
+}
+
+int Run::concludePrinted()
+{
+    report.printed(); // first: what the scheduler has counted it does not doubt
+    record->set(JobRecord::State::Printed);
+    report.info("Printed: the printer confirmed it.");
+    stage.set(Stage::Finished);
+    return CUPS_BACKEND_OK;
+}
+
+int Run::concludeUnconfirmed()
+{
+    record->set(JobRecord::State::Unconfirmed);
+    report.warning("Sent, but not confirmed: this printer does not say what is on paper.");
+    stage.set(Stage::Finished);
+    return CUPS_BACKEND_OK;
+}
+
+int Run::concludeNotPrinted(const std::string &why)
+{
+    report.warning("Not printed yet: " + why);
+    return hasStandIn ? CUPS_BACKEND_FAILED : CUPS_BACKEND_RETRY_CURRENT;
+}
+
+/// A person decides.
+int Run::concludeUnknown(const std::string &why)
+{
+    record->set(JobRecord::State::Held);
+    tellUnknown(why);
+    return CUPS_BACKEND_HOLD;
+}
+
+void Run::tellUnknown(const std::string &why)
+{
+    report.error(
+        "It is unknown whether \"" + job.title + "\" was printed: " + why +
+        ". Look for it at the printer. If it is there, cancel the job; if it is not, or not whole, release "
+        "it: it is printed again, with COPY on top.");
+}
+
+int Run::afterDeath()
+{
+    switch (stage.get()) {
+    case Stage::NothingSent:
+        std::this_thread::sleep_for(1s); // what kills it may do so again
+        return hasStandIn ? CUPS_BACKEND_FAILED : CUPS_BACKEND_RETRY_CURRENT;
+    case Stage::Sending:
+        return concludeUnknown("the backend was killed while it was printed");
+    case Stage::Finished:
+        break;
+    }
+    return CUPS_BACKEND_OK;
+}
+
+} // namespace
+
+int runBackend(int argc, char **argv)
+{
+    if (argc == 1) {
+        listDevices();
+        return CUPS_BACKEND_OK;
+    }
+    if (argc != 6 && argc != 7) {
+        fprintf(stderr, "Usage: %s job-id user title copies options [file]\n", argv[0]);
+        return CUPS_BACKEND_FAILED;
+    }
+    endWithScheduler();
+    std::signal(SIGPIPE, SIG_IGN);
+    const char *const uri = cupsBackendDeviceURI(argv);
+    std::string trouble;
+    std::optional<DeviceAddress> address = deviceAddress(uri ? uri : "", trouble);
+    if (!address) {
+        fprintf(stderr, "ERROR: Not printed: the address of the printer is wrong: %s.\n", trouble.c_str());
+        return CUPS_BACKEND_STOP;
+    }
+    return Run(jobIn(argc, argv), *address).print();
+}

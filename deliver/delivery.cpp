@@ -1,0 +1,330 @@
+#include "delivery.h"
+
+#include "proofwait.h"
+
+#include <algorithm>
+#include <poll.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto longestPatience = 30s; ///< before the first byte; then the scheduler starts anew
+constexpr auto patienceInClass = 5s;  ///< then the next printer of the class has its turn
+constexpr auto firstAnswer = 10s;     ///< of a printer that was never heard of
+constexpr auto longestPause = 2s;
+constexpr auto closingTime = 5s; ///< for a printer to close its side when it has taken all
+constexpr auto stallTime = 3s;   ///< in which a printer that has paper takes some bytes
+constexpr int slowestLine = 480; ///< bytes a second, half of what a line with 9600 baud carries
+
+std::string seconds(Clock::duration duration)
+{
+    return std::to_string(std::chrono::duration_cast<std::chrono::seconds>(duration).count()) + " seconds";
+}
+
+} // namespace
+
+Delivery::Delivery(const DeviceAddress &where, const Ticket &what, const Surroundings &surroundings)
+    : address(where), ticket(what), around(surroundings), channel(where, surroundings.interrupted)
+{
+}
+
+Delivery::Outcome Delivery::run()
+{
+    constexpr End (Delivery::*steps[])() = {&Delivery::findPrinter, &Delivery::takePrinter,
+                                            &Delivery::reach,       &Delivery::ask,
+                                            &Delivery::send,        &Delivery::confirm};
+    for (const auto step : steps) {
+        if (const End end = (this->*step)())
+            return *end;
+    }
+    return Outcome::Unknown; // the last step always ends
+}
+
+Delivery::End Delivery::findPrinter()
+{
+    around.report.connecting(true);
+    const Clock::time_point until = Clock::now() + patience();
+    while ((printer = channel.resolve()).empty()) {
+        if (const End end = unreached(until, longestPause))
+            return end;
+    }
+    memory.emplace(around.memoryFolder, printer);
+    return {};
+}
+
+Delivery::End Delivery::takePrinter()
+{
+    lock.emplace(printer);
+    while (!lock->tryTake()) {
+        around.report.waiting("The printer is busy with another ticket; this one is next.");
+        const int holder = lock->waiter();
+        if (channel.waitFor(holder, POLLIN, Clock::now() + (holder < 0 ? 20ms : 60'000ms)) == Event::Stopped)
+            return Outcome::Stopped;
+    }
+    return {};
+}
+
+Delivery::End Delivery::reach()
+{
+    const Clock::time_point until = Clock::now() + patience();
+    for (Clock::duration pause = 100ms;; pause = std::min<Clock::duration>(2 * pause, longestPause)) {
+        answers = {}; // to questions on an earlier connection
+        const Event event = channel.open(std::max(until, Clock::now() + 1s));
+        if (event == Event::Stopped)
+            return Outcome::Stopped;
+        if (event == Event::Ready)
+            break;
+        if (const End end = unreached(until, pause))
+            return end;
+    }
+    around.report.connecting(false);
+    around.report.setReason("offline-report", false);
+    return {};
+}
+
+/// Tells why, and waits for the next attempt; ends when there shall be none.
+Delivery::End Delivery::unreached(Clock::time_point until, Clock::duration pause)
+{
+    const std::string why = "the printer at " + address.shown() + " cannot be reached: " + channel.trouble();
+    around.report.waiting("Not printed yet: " + why + ".");
+    around.report.setReason("offline-report", true);
+    if (Clock::now() >= until)
+        return notPrinted(why + ".");
+    if (channel.waitFor(-1, 0, Clock::now() + pause) == Event::Stopped)
+        return Outcome::Stopped;
+    return {};
+}
+
+Delivery::End Delivery::ask()
+{
+    const Answers known = memory->answers();
+    const bool isRequired = address.status == DeviceAddress::Status::Required;
+    const bool isAsked =
+        isRequired || (address.status == DeviceAddress::Status::Ask && known != Answers::Nothing);
+    if (isAsked) {
+        if (const End end = askUntilReady(known))
+            return end;
+    }
+    if (level == Answers::Nothing)
+        around.report.status({});
+    if (isRequired && level != Answers::Proof)
+        return notPrinted("the printer cannot confirm what is on paper, and its queue requires that.");
+    return {};
+}
+
+Delivery::End Delivery::askUntilReady(Answers known)
+{
+    const Clock::time_point until = Clock::now() + patience();
+    for (;;) {
+        PrinterStatus status;
+        const Event event = askAll(status, answerTime());
+        if (event == Event::Ready && status.isReady()) {
+            around.report.status(status);
+            return learnWhetherItProves(known);
+        }
+        if (event == Event::Late && known == Answers::NotAsked &&
+            address.status == DeviceAddress::Status::Ask) {
+            memory->remember(Answers::Nothing);
+            return {};
+        }
+        if (const End end = notReady(event, status, until))
+            return end;
+    }
+}
+
+/// Tells why, and waits for the next attempt; ends when there shall be none.
+Delivery::End Delivery::notReady(Event event, const PrinterStatus &status, Clock::time_point until)
+{
+    std::string why = "the connection broke off: " + channel.trouble() + ".";
+    if (event == Event::Stopped)
+        return Outcome::Stopped;
+    if (event == Event::Ready) {
+        around.report.status(status);
+        why = status.sentence();
+    } else if (event == Event::Late) {
+        why = "the printer takes the connection and does not say how it is; switch it off and on.";
+        around.report.waiting("Not printed yet: " + why);
+    }
+    if (Clock::now() >= until)
+        return notPrinted(why);
+    if (channel.waitFor(-1, 0, Clock::now() + 500ms) == Event::Stopped)
+        return Outcome::Stopped;
+    return event == Event::Ready ? End() : reach();
+}
+
+Delivery::End Delivery::learnWhetherItProves(Answers known)
+{
+    level = known == Answers::NotAsked ? Answers::Status : known;
+    if (known == Answers::Proof || known == Answers::Status)
+        return {};
+    const std::string id = freshProofId();
+    const Clock::time_point until = answerTime();
+    Event event = sendAll(proofQuestion(id), until);
+    if (event == Event::Ready)
+        event = receiveUntil([&] { return answers.hasProof(id); }, until);
+    if (event == Event::Stopped)
+        return Outcome::Stopped;
+    if (event == Event::Broken)
+        return notPrinted("the connection broke off: " + channel.trouble() + ".");
+    level = event == Event::Ready ? Answers::Proof : Answers::Status;
+    memory->remember(level);
+    return {};
+}
+
+Delivery::End Delivery::send()
+{
+    if (!around.begin())
+        return notPrinted(
+            "the record of the job cannot be written; look for room on the disk of the print server.");
+    around.report.info("Printing.");
+    for (off_t place = 0; place < ticket.size();) {
+        const std::string piece = ticket.piece(place);
+        if (piece.empty())
+            return unknown("the data of the job could not be read to their end");
+        const Event event = sendAll(piece, Clock::now() + address.wait);
+        if (event != Event::Ready)
+            return brokenOff(event, "the printer took no more of it for " + seconds(address.wait));
+        place += off_t(piece.size());
+    }
+    return {};
+}
+
+Delivery::End Delivery::confirm()
+{
+    if (level != Answers::Proof)
+        return finishUnconfirmed();
+    const std::string id = freshProofId();
+    const Event event = sendAll(proofQuestion(id), Clock::now() + address.wait);
+    return event == Event::Ready
+               ? awaitProof(id)
+               : brokenOff(event, "the printer took no question for " + seconds(address.wait));
+}
+
+Delivery::End Delivery::awaitProof(const std::string &id)
+{
+    ProofWait wait(Clock::now() + address.wait + std::chrono::seconds(ticket.size() / slowestLine),
+                   address.wait);
+    while (!answers.hasProof(id)) {
+        const Event event =
+            receiveUntil([&] { return answers.hasProof(id) || answers.hasStatus(); }, wait.next());
+        if (event == Event::Broken || event == Event::Stopped)
+            return brokenOff(event, {});
+        if (wait.isOver())
+            return unknown("the printer did not confirm it within " + seconds(address.wait));
+        if (const int answer = answers.takeStatus();
+            answer >= 0 && wait.take(static_cast<unsigned char>(answer))) {
+            around.report.status(wait.status());
+            // Nobody can stop a backend without a guard, so it does not wait forever.
+            if (!wait.status().isReady() && !around.interrupted.isOrphan())
+                wait.extend();
+        }
+        if (const int question = wait.dueQuestion(); question > 0)
+            sendAll(statusQuestion(question), Clock::now());
+    }
+    around.report.goesOn();
+    return Outcome::Printed;
+}
+
+/// The printer has taken all when it closes its side. Not all of them do.
+Delivery::End Delivery::finishUnconfirmed()
+{
+    const Clock::time_point until = Clock::now() + address.wait;
+    channel.finishWriting();
+    const Clock::time_point closes = Clock::now() + std::min<Clock::duration>(closingTime, address.wait);
+    Event event = Event::Ready;
+    if (channel.isNetwork())
+        event = receiveUntil([] { return false; }, closes);
+    while (event == Event::Late || event == Event::Ready) {
+        if (channel.bytesOnTheWay() == 0)
+            return Outcome::Unconfirmed;
+        if (Clock::now() >= until)
+            return unknown("the printer did not take all of it within " + seconds(address.wait));
+        event = channel.waitFor(-1, 0, Clock::now() + 100ms);
+    }
+    if (event == Event::Broken && channel.isClosedInOrder())
+        return Outcome::Unconfirmed;
+    return brokenOff(event, {});
+}
+
+PrinterChannel::Event Delivery::askAll(PrinterStatus &status, Clock::time_point until)
+{
+    for (int question = 1; question <= PrinterStatus::questions; ++question) {
+        answers.takeStatus(); // what nobody asked for
+        Event event = sendAll(statusQuestion(question), until);
+        if (event == Event::Ready)
+            event = receiveUntil([&] { return answers.hasStatus(); }, until);
+        if (event != Event::Ready)
+            return event;
+        status.take(question, static_cast<unsigned char>(answers.takeStatus()));
+    }
+    return Event::Ready;
+}
+
+PrinterChannel::Event Delivery::receiveUntil(const std::function<bool()> &isEnough, Clock::time_point until)
+{
+    std::string bytes;
+    while (!isEnough()) {
+        const Event event = channel.read(bytes, until);
+        if (event != Event::Ready)
+            return event;
+        if (bytes.empty() && Clock::now() >= until)
+            return Event::Late;
+        answers.take(bytes);
+    }
+    return Event::Ready;
+}
+
+/// What the printer says meanwhile is taken: a printer that cannot get rid of its answers stops reading.
+PrinterChannel::Event Delivery::sendAll(std::string_view bytes, Clock::time_point until)
+{
+    const Clock::duration silence = until - Clock::now();
+    while (!bytes.empty()) {
+        std::size_t written = 0;
+        Event event = channel.write(bytes, written, std::min(until, Clock::now() + stallTime));
+        if (event == Event::Late && Clock::now() < until) {
+            around.report.waiting(
+                "The printer takes nothing more at present; look at its paper and its cover.");
+            continue;
+        }
+        if (event != Event::Ready)
+            return event;
+        bytes.remove_prefix(written);
+        if (written > 0)
+            until = Clock::now() + silence;
+        else if (event = receiveUntil([] { return false; }, Clock::now()); event != Event::Late)
+            return event;
+    }
+    return Event::Ready;
+}
+
+Delivery::End Delivery::notPrinted(const std::string &why)
+{
+    reason = why;
+    return Outcome::NotPrinted;
+}
+
+Delivery::End Delivery::unknown(const std::string &why)
+{
+    reason = why;
+    return Outcome::Unknown;
+}
+
+/// For what ended otherwise than hoped, after the first byte.
+Delivery::End Delivery::brokenOff(Event event, const std::string &late)
+{
+    if (event == Event::Stopped)
+        return Outcome::Stopped;
+    return unknown(event == Event::Late ? late : "the connection broke off: " + channel.trouble());
+}
+
+Clock::duration Delivery::patience() const
+{
+    return around.hasStandIn ? patienceInClass : longestPatience;
+}
+
+/// When an answer is no longer waited for.
+Clock::time_point Delivery::answerTime() const
+{
+    return Clock::now() + std::min({patience(), Clock::duration(firstAnswer), Clock::duration(address.wait)});
+}

@@ -1,0 +1,151 @@
+#include "deviceaddress.h"
+
+#include <charconv>
+#include <cups/http.h>
+#include <string_view>
+
+namespace {
+
+struct StatusWord
+{
+    std::string_view word;
+    DeviceAddress::Status status;
+};
+
+constexpr StatusWord statusWords[] = {
+    {"required", DeviceAddress::Status::Required},
+    {"ask", DeviceAddress::Status::Ask},
+    {"never", DeviceAddress::Status::Never},
+};
+
+bool takeNumber(std::string_view text, int least, int most, int &number)
+{
+    int value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool isGood =
+        error == std::errc() && end == text.data() + text.size() && value >= least && value <= most;
+    if (isGood)
+        number = value;
+    return isGood;
+}
+
+std::string takeStatus(std::string_view value, DeviceAddress &address)
+{
+    for (const StatusWord &each : statusWords) {
+        if (value == each.word) {
+            address.status = each.status;
+            return {};
+        }
+    }
+    return "status is one of required, ask and never";
+}
+
+std::string takeWait(std::string_view value, DeviceAddress &address)
+{
+    int seconds = 0;
+    if (!takeNumber(value, 1, 86400, seconds))
+        return "wait is a number of seconds from 1 to 86400";
+    address.wait = std::chrono::seconds(seconds);
+    return {};
+}
+
+std::string takeBaud(std::string_view value, DeviceAddress &address)
+{
+    return takeNumber(value, 50, 4'000'000, address.baud)
+               ? ""
+               : "baud is the speed of a serial line, such as 9600";
+}
+
+struct OptionKind
+{
+    std::string_view name;
+    std::string (*take)(std::string_view value, DeviceAddress &address); ///< returns what is wrong
+};
+
+constexpr OptionKind optionKinds[] = {{"status", takeStatus}, {"wait", takeWait}, {"baud", takeBaud}};
+
+std::string takeOption(std::string_view option, DeviceAddress &address)
+{
+    const std::size_t equals = option.find('=');
+    const std::string_view name = option.substr(0, equals);
+    for (const OptionKind &kind : optionKinds) {
+        if (name == kind.name && equals != std::string_view::npos)
+            return kind.take(option.substr(equals + 1), address);
+    }
+    return "there is no option \"" + std::string(option) + "\"; there are status, wait and baud";
+}
+
+std::string takeOptions(std::string_view options, DeviceAddress &address)
+{
+    while (!options.empty()) {
+        const std::size_t end = options.find('&');
+        const std::string trouble = takeOption(options.substr(0, end), address);
+        if (!trouble.empty())
+            return trouble;
+        options = end == std::string_view::npos ? std::string_view() : options.substr(end + 1);
+    }
+    return {};
+}
+
+/// The parts of a URI, as the print server takes it apart.
+struct UriParts
+{
+    char scheme[64];
+    char user[64];
+    char host[256];
+    char resource[1024];
+    int port = 0;
+
+    bool take(const std::string &uri)
+    {
+        return httpSeparateURI(HTTP_URI_CODING_ALL, uri.c_str(), scheme, sizeof scheme, user, sizeof user,
+                               host, sizeof host, &port, resource, sizeof resource) >= HTTP_URI_STATUS_OK;
+    }
+};
+
+/// libcups wants a slash between a port and the options.
+std::string withSlash(std::string uri)
+{
+    constexpr std::string_view beginning = "palvestrin://";
+    const std::size_t end = uri.find_first_of("/?", beginning.size());
+    if (uri.starts_with(beginning) && end != std::string::npos && uri[end] == '?')
+        uri.insert(end, 1, '/');
+    return uri;
+}
+
+std::string takePlace(const UriParts &parts, std::string_view path, DeviceAddress &address)
+{
+    address.host = parts.host;
+    if (parts.port > 0)
+        address.port = parts.port;
+    if (address.host.empty())
+        address.path = path;
+    if (address.host.empty() && !address.path.starts_with("/dev/"))
+        return "it names neither a host nor a device below /dev";
+    if (!address.host.empty() && path.size() > 1)
+        return "behind the host there is no path; options follow a question mark";
+    return {};
+}
+
+} // namespace
+
+std::string DeviceAddress::shown() const
+{
+    return host.empty() ? path : host + ", port " + std::to_string(port);
+}
+
+std::optional<DeviceAddress> deviceAddress(const std::string &uri, std::string &trouble)
+{
+    UriParts parts;
+    if (!parts.take(withSlash(uri)) || std::string_view(parts.scheme) != "palvestrin") {
+        trouble = "it is not of the form palvestrin://HOST or palvestrin:/dev/DEVICE";
+        return {};
+    }
+    const std::string_view resource = parts.resource;
+    const std::size_t question = resource.find('?');
+    DeviceAddress address;
+    trouble = takePlace(parts, resource.substr(0, question), address);
+    if (trouble.empty() && question != std::string_view::npos)
+        trouble = takeOptions(resource.substr(question + 1), address);
+    return trouble.empty() ? std::optional(address) : std::nullopt;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+
+/// Where a printer is and how it is asked, as the URI of its queue tells:
+///
+///     palvestrin://HOST[:9100][/][?OPTION=VALUE&...]
+///     palvestrin:/dev/...[?OPTION=VALUE&...]
+///
+/// docs/printing.md lists the options.
+struct DeviceAddress
+{
+    enum class Status {
+        Required, ///< nothing is sent before the printer has answered
+        Ask,      ///< it is asked, and served without when it never answers
+        Never,    ///< it is not asked
+    };
+
+    std::string host; ///< "" for a device
+    int port = 9100;
+    std::string path; ///< of a device, "" for a host
+    Status status = Status::Ask;
+    /// How long no sign of life is borne once bytes have gone out.
+    std::chrono::seconds wait{300};
+    int baud = 0; ///< of a serial line; 0: as it is set
+
+    /// "192.0.2.7, port 9100" or "/dev/usb/lp0".
+    std::string shown() const;
+};
+
+/// Empty when the URI is wrong; then `trouble` says in a sentence why.
+std::optional<DeviceAddress> deviceAddress(const std::string &uri, std::string &trouble);

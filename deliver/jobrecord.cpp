@@ -1,0 +1,210 @@
+#include "jobrecord.h"
+
+#include "durablefile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <ctime>
+#include <dirent.h>
+#include <fcntl.h>
+#include <iterator>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+struct StateWord
+{
+    JobRecord::State state;
+    std::string_view word;
+    time_t keptFor; ///< seconds
+};
+
+constexpr time_t day = 24 * 60 * 60;
+
+constexpr StateWord stateWords[] = {
+    {JobRecord::State::New, "new", 60 * day},
+    {JobRecord::State::Sending, "sending", 60 * day},
+    {JobRecord::State::Held, "held", 60 * day},
+    {JobRecord::State::Printed, "printed", 2 * day}, // the server keeps the files of a job for a day
+    {JobRecord::State::Unconfirmed, "unconfirmed", 2 * day},
+    {JobRecord::State::PrintedUntold, "printed-untold", 60 * day},
+    {JobRecord::State::UnconfirmedUntold, "unconfirmed-untold", 60 * day},
+};
+
+constexpr std::size_t recordLength = 160; // one sector of any disk: it is written whole or not at all
+constexpr std::string_view ending = ".job";
+
+const StateWord &wordOf(JobRecord::State state)
+{
+    return *std::ranges::find(stateWords, state, &StateWord::state);
+}
+
+/// What was torn while it was written says that something was about to go out.
+const StateWord &wordIn(std::string_view content)
+{
+    const std::string_view word = content.substr(0, content.find(' '));
+    if (word.empty())
+        return wordOf(JobRecord::State::New);
+    const auto *found = std::ranges::find(stateWords, word, &StateWord::word);
+    return found == std::end(stateWords) ? wordOf(JobRecord::State::Sending) : *found;
+}
+
+/// The whole record, written by a backend of that scheduler.
+std::string recordText(JobRecord::State state, const std::string &scheduler)
+{
+    std::string text(wordOf(state).word);
+    text += ' ' + std::to_string(time(nullptr)) + ' ' + scheduler + ' ';
+    text.resize(recordLength - 1, ' ');
+    return text + '\n';
+}
+
+int openLocked(const std::string &path)
+{
+    const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    while (descriptor >= 0 && flock(descriptor, LOCK_EX) != 0) {
+        if (errno == EINTR)
+            continue;
+        close(descriptor);
+        return -1;
+    }
+    return descriptor;
+}
+
+/// Whether the file that was opened is still the one of that name: it may have been removed in between.
+bool isStillThere(int descriptor, const std::string &path)
+{
+    struct stat opened;
+    struct stat named;
+    return fstat(descriptor, &opened) == 0 && stat(path.c_str(), &named) == 0 &&
+           opened.st_ino == named.st_ino;
+}
+
+/// The name of a record: letters, digits and dashes, whatever the job calls itself.
+std::string fileName(std::string_view uuid)
+{
+    std::string name(uuid.substr(0, 100));
+    std::ranges::replace_if(
+        name, [](unsigned char c) { return !isalnum(c) && c != '-'; }, '_');
+    return name + std::string(ending);
+}
+
+void removeIfOld(const std::string &path)
+{
+    const int descriptor = open(path.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
+    if (descriptor < 0)
+        return;
+    struct stat file;
+    const bool isFree = flock(descriptor, LOCK_EX | LOCK_NB) == 0 && fstat(descriptor, &file) == 0;
+    if (isFree && time(nullptr) - file.st_mtime > wordIn(contentOf(descriptor)).keptFor)
+        unlink(path.c_str());
+    close(descriptor);
+}
+
+/// A file that is as old as the folder's oldest record may be.
+std::string ageFile(const std::string &folder)
+{
+    return folder + "/since";
+}
+
+/// Makes the folder, and with it the file that tells its age.
+bool makeRecordFolder(const std::string &folder)
+{
+    if (!makeFolder(folder))
+        return false;
+    const int descriptor = open(ageFile(folder).c_str(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (descriptor >= 0)
+        close(descriptor);
+    return descriptor >= 0;
+}
+
+} // namespace
+
+JobRecord::JobRecord(const std::string &folder, std::string_view uuid, std::string thisScheduler)
+    : isSound(makeRecordFolder(folder)), scheduler(std::move(thisScheduler))
+{
+    const std::string path = folder + '/' + fileName(uuid);
+    do {
+        if (descriptor >= 0)
+            close(descriptor);
+        descriptor = openLocked(path);
+    } while (descriptor >= 0 && !isStillThere(descriptor, path));
+    isSound = isSound && descriptor >= 0 && syncFolder(folder);
+    if (isSound)
+        read();
+}
+
+JobRecord::~JobRecord()
+{
+    if (descriptor >= 0)
+        close(descriptor);
+}
+
+void JobRecord::read()
+{
+    const std::string content = contentOf(descriptor);
+    known = wordIn(content).state;
+    ofThisScheduler = content.find(' ' + scheduler + ' ') != std::string::npos;
+    const std::size_t time = content.find(' ');
+    written = time == std::string::npos ? 0 : std::atoll(content.c_str() + time);
+}
+
+bool JobRecord::set(State state)
+{
+    known = state;
+    ofThisScheduler = true;
+    if (descriptor < 0)
+        return isSound;
+    return rewriteDurably(descriptor, recordText(state, scheduler));
+}
+
+std::string identityOf(pid_t process)
+{
+    std::string boot = contentOf("/proc/sys/kernel/random/boot_id");
+    boot.resize(boot.find_last_not_of('\n') + 1);
+    const std::string status = contentOf("/proc/" + std::to_string(process) + "/stat");
+    // The time at which it began is the 20th word behind the name, which is in brackets and may hold
+    // anything.
+    std::size_t place = status.rfind(')');
+    for (int word = 0; word < 20 && place != std::string::npos; ++word)
+        place = status.find(' ', place + 1);
+    const std::string began =
+        place == std::string::npos ? "" : status.substr(place + 1, status.find(' ', place + 1) - place - 1);
+    return boot + '/' + std::to_string(process) + '/' + began;
+}
+
+void changeFreeRecord(const std::string &folder, std::string_view uuid,
+                      const std::function<JobRecord::State(JobRecord::State)> &change)
+{
+    const std::string path = folder + '/' + fileName(uuid);
+    const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (descriptor < 0)
+        return;
+    if (flock(descriptor, LOCK_EX | LOCK_NB) == 0 && isStillThere(descriptor, path)) {
+        const JobRecord::State before = wordIn(contentOf(descriptor)).state;
+        const JobRecord::State after = change(before);
+        if (after != before)
+            rewriteDurably(descriptor, recordText(after, {}));
+    }
+    close(descriptor);
+}
+
+time_t recordsKeptSince(const std::string &folder)
+{
+    struct stat file;
+    return stat(ageFile(folder).c_str(), &file) == 0 ? file.st_mtime : time(nullptr);
+}
+
+void removeOldRecords(const std::string &folder)
+{
+    DIR *const names = opendir(folder.c_str());
+    if (!names)
+        return;
+    while (const dirent *entry = readdir(names)) {
+        if (std::string_view(entry->d_name).ends_with(ending))
+            removeIfOld(folder + '/' + entry->d_name);
+    }
+    closedir(names);
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <ctime>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <sys/types.h>
+
+/// What is known of one job, on the disk, so that it outlives the backend, the scheduler and the machine.
+///
+/// The record is the lock of its job, too: whoever has it open is the only one who prints the job. A child
+/// process shares it. It says "sending" before the first byte of the job goes out, so that a backend which is
+/// killed at any moment leaves a job that may be on paper, and never one that looks as if it were not.
+class JobRecord
+{
+public:
+    enum class State {
+        New,
+        Sending,     ///< bytes may have gone out, and nobody has been told how it ended
+        Held,        ///< nobody knows whether it is on paper, and the scheduler has been told to hold it
+        Printed,     ///< the printer confirmed it
+        Unconfirmed, ///< all of it was sent to a printer that confirms nothing
+        // The same, and the scheduler starts the job again only to be told so.
+        PrintedUntold,
+        UnconfirmedUntold,
+    };
+
+    /// No record is kept: nobody will start the job again.
+    JobRecord() = default;
+    /// Opens the record and waits until nobody else has it. `uuid` is that of the job.
+    JobRecord(const std::string &folder, std::string_view uuid, std::string thisScheduler);
+    ~JobRecord();
+    JobRecord(const JobRecord &) = delete;
+    JobRecord &operator=(const JobRecord &) = delete;
+
+    /// False when the record cannot be kept: then nothing must be sent.
+    bool isKept() const { return isSound; }
+    State state() const { return known; }
+    /// Whether the scheduler that runs now was told so, not one that ran before.
+    bool isOfThisScheduler() const { return ofThisScheduler; }
+    /// When that was written down.
+    time_t since() const { return written; }
+    /// Writes it down, durably. False when that cannot be done.
+    bool set(State state);
+
+private:
+    void read();
+
+    int descriptor = -1;
+    bool isSound = true;
+    bool ofThisScheduler = false;
+    State known = State::New;
+    time_t written = 0;
+    std::string scheduler;
+};
+
+/// A text that no other process on this machine has or will have.
+std::string identityOf(pid_t process);
+
+/// Has the record of a job say what `change` makes of what it says, New when there was none, unless somebody
+/// has it open. Nobody can open it meanwhile.
+void changeFreeRecord(const std::string &folder, std::string_view uuid,
+                      const std::function<JobRecord::State(JobRecord::State)> &change);
+/// Since when records have been kept in the folder; now when none are.
+time_t recordsKeptSince(const std::string &folder);
+/// Removes records that nobody needs any more.
+void removeOldRecords(const std::string &folder);

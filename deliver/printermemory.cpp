@@ -1,0 +1,65 @@
+#include "printermemory.h"
+
+#include "durablefile.h"
+
+#include <algorithm>
+#include <ctime>
+#include <fcntl.h>
+#include <iterator>
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+struct AnswersWord
+{
+    PrinterMemory::Answers answers;
+    std::string_view word;
+};
+
+constexpr AnswersWord answersWords[] = {
+    {PrinterMemory::Answers::NotAsked, "not asked\n"},
+    {PrinterMemory::Answers::Nothing, "nothing\n"},
+    {PrinterMemory::Answers::Status, "status\n"},
+    {PrinterMemory::Answers::Proof, "proof\n"},
+};
+
+constexpr time_t day = 24 * 60 * 60;
+
+bool isOld(const std::string &path)
+{
+    struct stat file;
+    return stat(path.c_str(), &file) != 0 || time(nullptr) - file.st_mtime > day;
+}
+
+} // namespace
+
+PrinterMemory::PrinterMemory(const std::string &folder, const std::string &printer)
+{
+    if (folder.empty() || !makeFolder(folder))
+        return;
+    std::string name = printer;
+    std::ranges::replace(name, '/', '_');
+    path = folder + '/' + name + ".printer";
+}
+
+PrinterMemory::Answers PrinterMemory::answers() const
+{
+    const std::string content = path.empty() ? "" : contentOf(path);
+    const auto *found = std::ranges::find(answersWords, content, &AnswersWord::word);
+    if (found == std::end(answersWords) || (found->answers != Answers::Proof && isOld(path)))
+        return Answers::NotAsked;
+    return found->answers;
+}
+
+void PrinterMemory::remember(Answers answers) const
+{
+    if (path.empty() || answers == this->answers())
+        return;
+    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (descriptor < 0)
+        return;
+    rewriteDurably(descriptor, std::ranges::find(answersWords, answers, &AnswersWord::answers)->word);
+    close(descriptor);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+/// What a printer was found out to answer, kept from job to job.
+class PrinterMemory
+{
+public:
+    enum class Answers {
+        NotAsked,
+        Nothing,
+        Status, ///< but not whether something is on paper
+        Proof,
+    };
+
+    /// `printer` is its address. An empty folder keeps nothing.
+    PrinterMemory(const std::string &folder, const std::string &printer);
+
+    /// What is a day old is asked again, unless the printer gave proof: a printer learns nothing, but it may
+    /// be replaced.
+    Answers answers() const;
+    void remember(Answers answers) const;
+
+private:
+    std::string path;
+};

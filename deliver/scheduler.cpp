@@ -1,0 +1,189 @@
+#include "scheduler.h"
+
+#include <algorithm>
+#include <cups/cups.h>
+#include <iterator>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace {
+
+using Answer = std::unique_ptr<ipp_t, decltype(&ippDelete)>;
+
+bool isGood(const Answer &answer)
+{
+    return answer && ippGetStatusCode(answer.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
+}
+
+Answer request(ipp_op_t operation, int job)
+{
+    ipp_t *request = ippNewRequest(operation);
+    const std::string uri = "ipp://localhost/jobs/" + std::to_string(job);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.c_str());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    return {cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/jobs"), ippDelete};
+}
+
+bool isDone(ipp_op_t operation, int job)
+{
+    return isGood(request(operation, job));
+}
+
+constexpr const char *wantedOfJobs[] = {"job-id",
+                                        "job-uuid",
+                                        "job-printer-uri",
+                                        "job-printer-uri-actual", // of a class: the printer
+                                        "job-state",
+                                        "job-media-sheets-completed",
+                                        "time-at-processing"};
+constexpr int jobsLookedAt = 50;
+constexpr int allJobs = 1'000'000;
+
+/// The attributes of jobs that are "completed", the last ones first, or of "all".
+Answer jobs(const char *which, int most)
+{
+    ipp_t *request = ippNewRequest(IPP_OP_GET_JOBS);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, which);
+    ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "limit", most);
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(std::size(wantedOfJobs)), nullptr, wantedOfJobs);
+    return {cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"), ippDelete};
+}
+
+/// One job of an answer, attribute by attribute.
+struct JobReader
+{
+    int number = 0;
+    int state = 0;
+    int sheets = -1;
+    time_t started = 0;
+    std::string uuid;
+    std::string queue;
+    std::string printer;
+
+    void take(ipp_attribute_t *attribute)
+    {
+        const std::string_view name = ippGetName(attribute) ? ippGetName(attribute) : "";
+        if (name == "job-id")
+            number = ippGetInteger(attribute, 0);
+        else if (name == "job-state")
+            state = ippGetInteger(attribute, 0);
+        else if (name == "job-media-sheets-completed")
+            sheets = ippGetInteger(attribute, 0);
+        else if (name == "time-at-processing")
+            started = ippGetInteger(attribute, 0);
+        else if (name == "job-uuid")
+            uuid = ippGetString(attribute, 0, nullptr);
+        else if (name == "job-printer-uri")
+            queue = ippGetString(attribute, 0, nullptr);
+        else if (name == "job-printer-uri-actual")
+            printer = ippGetString(attribute, 0, nullptr);
+    }
+    bool isDoubtful() const
+    {
+        return number > 0 && state == IPP_JSTATE_COMPLETED && sheets == 0 && started > 0 && !uuid.empty();
+    }
+    /// Where it was printed.
+    const std::string &place() const { return printer.empty() ? queue : printer; }
+};
+
+/// Since when the queue has printed through this backend as it does now; empty when it does not.
+std::optional<time_t> oursSince(const std::string &queue)
+{
+    constexpr const char *wanted[] = {"device-uri", "printer-config-change-time"};
+    ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, queue.c_str());
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", int(std::size(wanted)),
+                  nullptr, wanted);
+    const Answer answer(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"), ippDelete);
+    ipp_attribute_t *const uri =
+        isGood(answer) ? ippFindAttribute(answer.get(), wanted[0], IPP_TAG_URI) : nullptr;
+    if (!uri || !std::string_view(ippGetString(uri, 0, nullptr)).starts_with("palvestrin:"))
+        return {};
+    ipp_attribute_t *const changed = ippFindAttribute(answer.get(), wanted[1], IPP_TAG_INTEGER);
+    return changed ? ippGetInteger(changed, 0) : 0;
+}
+
+/// Asks for each queue once.
+class Queues
+{
+public:
+    /// Whether a job that was started then went through this backend.
+    bool wereOurs(const std::string &queue, time_t started)
+    {
+        const auto [place, isNew] = known.try_emplace(queue);
+        if (isNew)
+            place->second = oursSince(queue);
+        return place->second && started >= *place->second;
+    }
+
+private:
+    std::map<std::string, std::optional<time_t>> known;
+};
+
+/// The jobs of an answer: each is a group of attributes.
+std::vector<JobReader> jobsIn(const Answer &answer)
+{
+    std::vector<JobReader> jobs;
+    bool isInside = false;
+    for (ipp_attribute_t *each = ippFirstAttribute(answer.get()); each;
+         each = ippNextAttribute(answer.get())) {
+        const bool isOfJob = ippGetGroupTag(each) == IPP_TAG_JOB && ippGetName(each);
+        if (isOfJob && !isInside)
+            jobs.emplace_back();
+        if (isOfJob)
+            jobs.back().take(each);
+        isInside = isOfJob;
+    }
+    return jobs;
+}
+
+} // namespace
+
+std::optional<time_t> scheduler::endOf(int job)
+{
+    const Answer answer = request(IPP_OP_GET_JOB_ATTRIBUTES, job);
+    if (!isGood(answer))
+        return {};
+    ipp_attribute_t *const end = ippFindAttribute(answer.get(), "time-at-completed", IPP_TAG_INTEGER);
+    return end ? ippGetInteger(end, 0) : 0;
+}
+
+bool scheduler::hasOnce(int job)
+{
+    const Answer answer = jobs("all", allJobs);
+    return isGood(answer) && std::ranges::count(jobsIn(answer), job, &JobReader::number) == 1;
+}
+
+bool scheduler::hold(int job)
+{
+    return isDone(IPP_OP_HOLD_JOB, job);
+}
+
+bool scheduler::release(int job)
+{
+    return isDone(IPP_OP_RELEASE_JOB, job);
+}
+
+std::vector<scheduler::DoubtfulJob> scheduler::doubtfulJobs(time_t since)
+{
+    const Answer answer = jobs("completed", jobsLookedAt);
+    if (!isGood(answer))
+        return {};
+    std::vector<DoubtfulJob> doubtful;
+    Queues queues;
+    for (const JobReader &job : jobsIn(answer)) {
+        if (job.isDoubtful() && job.started >= since && queues.wereOurs(job.place(), job.started))
+            doubtful.push_back({job.number, job.uuid});
+    }
+    return doubtful;
+}
+
+bool scheduler::restart(int job)
+{
+    return isDone(IPP_OP_RESTART_JOB, job);
+}

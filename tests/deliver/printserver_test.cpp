@@ -1,0 +1,594 @@
+// The backend under a real print server, and printers that misbehave: what the server says of a job is what
+// the roll of the printer says.
+
+#include "printerprocess.h"
+#include "printserver.h"
+#include "program.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <arpa/inet.h>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// KiB that a ticket of 400 KB may take over a short one; the sanitizer keeps what was freed.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int longTicketMemory = 64'000;
+#else
+constexpr int longTicketMemory = 200;
+#endif
+
+} // namespace
+
+class PrintServerTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    PrintServer server;
+    int number = 100;
+
+    /// A queue of that name for the printer.
+    QString queueFor(const PrinterProcess &printer, const QByteArray &options = "wait=2")
+    {
+        const QString name = u"queue%1"_s.arg(printer.port());
+        server.addQueue(name, printer.uri(options));
+        return name;
+    }
+    /// Prints a ticket, so that the printer is known.
+    void acquaint(const QString &queue)
+    {
+        const int job = server.submit(queue, ticket(++number));
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).state, int(JobInfo::Completed));
+    }
+    /// A ticket of a program that knows nothing of print servers.
+    static void sendRaw(int port, const QByteArray &bytes)
+    {
+        const int connection = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        address.sin_port = htons(uint16_t(port));
+        if (::connect(connection, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0 ||
+            write(connection, bytes.constData(), std::size_t(bytes.size())) != bytes.size())
+            qFatal("the raw client cannot print");
+        close(connection);
+    }
+    /// Of the processes of the backend that run now, in KiB: what the largest of them ever took.
+    int peakMemory() const
+    {
+        int most = 0;
+        for (const qint64 process : server.backends()) {
+            QFile status(u"/proc/%1/status"_s.arg(process));
+            if (!status.open(QIODevice::ReadOnly))
+                continue;
+            const QByteArrayList words = status.readAll().simplified().split(' ');
+            most = std::max(most, words.value(words.indexOf("VmHWM:") + 1).toInt());
+        }
+        return most;
+    }
+    static bool isWhole(const PrinterProcess &printer, int ticket)
+    {
+        return printer.count(firstRow(ticket)) == 1 && printer.count(lastRow(ticket)) == 1;
+    }
+
+private Q_SLOTS:
+    void cleanup() { server.run(u"cancel"_s, {u"-a"_s, u"-x"_s}); }
+
+    void printedIsWhatThePrinterConfirms()
+    {
+        PrinterProcess printer;
+        const int job = server.submit(queueFor(printer), ticket(1));
+        const JobInfo info = server.awaitState(job, {JobInfo::Completed});
+        QCOMPARE(info.state, int(JobInfo::Completed));
+        QCOMPARE(info.sheets, 1);
+        QCOMPARE(info.message, QByteArray());
+        QVERIFY(isWhole(printer, 1));
+    }
+
+    void copiesOfAFile()
+    {
+        PrinterProcess printer;
+        const int job = server.submit(queueFor(printer), ticket(2), {u"-n"_s, u"3"_s});
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QCOMPARE(printer.count(lastRow(2)), 3);
+    }
+
+    void aPrinterThatRefusesIsWaitedFor()
+    {
+        PrinterProcess printer;
+        printer.habit("refuse on");
+        const QString queue = queueFor(printer);
+        const int job = server.submit(queue, ticket(3));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("offline-report"), 10'000);
+        QVERIFY(server.job(job).message.contains("Connection refused"));
+        printer.habit("refuse off");
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 3));
+    }
+
+    void aPrinterThatNeverReadsGetsNothing()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("read off");
+        const int job = server.submit(queue, ticket(4));
+        QTRY_VERIFY_WITH_TIMEOUT(server.job(job).message.contains("does not say how it is"), 15'000);
+        QCOMPARE(printer.count(firstRow(4)), 0);
+        printer.habit("read on");
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 4));
+    }
+
+    void aConnectionThatBreaksOffLeavesADoubt()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("reset 40");
+        const int job = server.submit(queue, ticket(5));
+        const JobInfo info = server.awaitState(job, {JobInfo::Held});
+        QCOMPARE(info.state, int(JobInfo::Held));
+        QVERIFY2(info.message.contains("It is unknown whether \"job\" was printed"), info.message);
+        QCOMPARE(printer.count(lastRow(5)), 0);
+
+        server.release(job);
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QCOMPARE(printer.count(lastRow(5)), 1);
+        const QStringList roll = printer.roll();
+        QCOMPARE(roll.count(u"C O P Y"_s) + roll.count(u"COPY"_s), 1);
+    }
+
+    void paperThatEndsInTheMiddle()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("paper 3");
+        const int job = server.submit(queue, ticket(6));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        QTest::qSleep(3000); // longer than a printer that is ready may be silent
+        QCOMPARE(server.job(job).state, int(JobInfo::Processing));
+        QCOMPARE(server.job(job).message, QByteArray("The paper is out; put in a new roll."));
+        printer.habit("paper 1000");
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 6));
+        QVERIFY(!server.reasons(queue).contains("media-empty"));
+    }
+
+    /// It is longer than all that is between the server and the paper, so it stops while it is being sent.
+    void paperThatEndsInALongTicket()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer, "wait=20");
+        acquaint(queue);
+        printer.habit("paper 3");
+        const int brief = server.submit(queue, ticket(36));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        const int usualMemory = peakMemory();
+        printer.habit("paper 500");
+        QCOMPARE(server.awaitState(brief, {JobInfo::Completed}).sheets, 1);
+        constexpr int rows = 30'000;
+        const int job = server.submit(queue, ticket(18, rows));
+        QTRY_VERIFY_WITH_TIMEOUT(server.job(job).message.contains("takes nothing more at present"), 20'000);
+        QVERIFY2(peakMemory() < usualMemory + longTicketMemory, qPrintable(QString::number(peakMemory())));
+        printer.habit("paper 1000000");
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 18));
+        QCOMPARE(printer.roll().filter(u"row 18."_s).size(), qsizetype(rows));
+    }
+
+    void anOpenCoverIsWaitedFor()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("cover open");
+        const int job = server.submit(queue, ticket(7));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("cover-open-error"), 15'000);
+        QCOMPARE(printer.count(firstRow(7)), 0);
+        printer.habit("cover closed");
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 7));
+        QVERIFY(!server.reasons(queue).contains("cover-open"));
+    }
+
+    void aSlowLine()
+    {
+        PrinterProcess printer;
+        printer.habit("speed 960");
+        const int job = server.submit(queueFor(printer, "wait=5"), ticket(8, 300)); // 3 seconds
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 8));
+    }
+
+    void garbageIsNoAnswer()
+    {
+        PrinterProcess printer;
+        printer.habit("status garbage");
+        const int job = server.submit(queueFor(printer), ticket(9));
+        const JobInfo info = server.awaitState(job, {JobInfo::Completed});
+        QCOMPARE(info.state, int(JobInfo::Completed));
+        QCOMPARE(info.sheets, 0);
+        QVERIFY2(info.message.startsWith("Sent, but not confirmed"), info.message);
+        QVERIFY(isWhole(printer, 9));
+    }
+
+    void aPrinterThatAnswersNothing()
+    {
+        PrinterProcess printer;
+        printer.habit("status off");
+        const QString queue = queueFor(printer);
+        const int first = server.submit(queue, ticket(10));
+        QVERIFY(server.awaitState(first, {JobInfo::Completed}).message.startsWith("Sent, but not confirmed"));
+        QElapsedTimer timer;
+        timer.start();
+        const int second = server.submit(queue, ticket(11)); // it is known by now
+        QCOMPARE(server.awaitState(second, {JobInfo::Completed}).sheets, 0);
+        QVERIFY2(timer.elapsed() < 1900, "it was asked again");
+        QVERIFY(isWhole(printer, 10) && isWhole(printer, 11));
+    }
+
+    void whatIsRequiredIsNotSentWithout()
+    {
+        PrinterProcess printer;
+        printer.habit("status off");
+        const int job = server.submit(queueFor(printer, "status=required&wait=1"), ticket(12));
+        QTRY_VERIFY_WITH_TIMEOUT(server.job(job).message.contains("does not say how it is"), 15'000);
+        QCOMPARE(printer.count(firstRow(12)), 0);
+        printer.habit("status on");
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 12));
+    }
+
+    void lateAnswers()
+    {
+        PrinterProcess printer;
+        printer.habit("late 400");
+        const int job = server.submit(queueFor(printer, "wait=5"), ticket(13));
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 13));
+    }
+
+    void aPrinterThatDisappearsAfterTheLastByte()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("vanish on");
+        const int job = server.submit(queue, ticket(14));
+        QCOMPARE(server.awaitState(job, {JobInfo::Held}).state, int(JobInfo::Held));
+        QVERIFY(isWhole(printer, 14));
+    }
+
+    void aJobIsCancelled()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer, "wait=60");
+        acquaint(queue);
+        printer.habit("cover open");
+        const int job = server.submit(queue, ticket(15));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("cover-open-error"), 15'000);
+        server.run(u"cancel"_s, {QString::number(job)});
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 3000);
+        QCOMPARE(server.job(job).state, int(JobInfo::Canceled));
+        printer.habit("cover closed");
+        acquaint(queue);
+        QCOMPARE(printer.count(firstRow(15)), 0);
+    }
+
+    void aDisabledPrinterKeepsItsJob()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("cover open");
+        const int job = server.submit(queue, ticket(19));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("cover-open-error"), 15'000);
+        server.run(u"cupsdisable"_s, {queue});
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 5000);
+        QCOMPARE(server.job(job).state, int(JobInfo::Pending));
+        printer.habit("cover closed");
+        server.run(u"cupsenable"_s, {queue});
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 19));
+    }
+
+    /// A machine that is shut down while tickets wait.
+    void aServerThatIsStoppedKeepsItsJobs()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("paper 3");
+        const int begun = server.submit(queue, ticket(46));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        const int next = server.submit(queue, ticket(47));
+        server.stop();
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 2000);
+        printer.habit("paper 1000");
+        server.start();
+        QCOMPARE(server.awaitState(begun, {JobInfo::Held}).state, int(JobInfo::Held));
+        QCOMPARE(server.awaitState(next, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 46) && isWhole(printer, 47));
+    }
+
+    void aReprintIsAskedForByAPerson()
+    {
+        PrinterProcess printer;
+        const int job = server.submit(queueFor(printer), ticket(16));
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        server.run(u"lp"_s, {u"-i"_s, QString::number(job), u"-H"_s, u"restart"_s});
+        QTRY_COMPARE_WITH_TIMEOUT(printer.count(lastRow(16)), 2, 10'000);
+        QCOMPARE(printer.count(u"C O P Y"_s) + printer.count(u"COPY"_s), 1);
+    }
+
+    void theBackendDiesWithTheServer()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("paper 3");
+        const int job = server.submit(queue, ticket(17));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        QCOMPARE(server.backends().size(), qsizetype(2));
+        server.kill();
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 2000);
+        server.start();
+        QCOMPARE(server.awaitState(job, {JobInfo::Held}).state, int(JobInfo::Held));
+        printer.habit("paper 1000");
+        QTRY_VERIFY_WITH_TIMEOUT(isWhole(printer, 17), 5000); // the printer kept what it had
+
+        server.kill(); // who looked before must look again: nobody knows whether the server kept the hold
+        server.start();
+        QTest::qSleep(500);
+        QCOMPARE(server.job(job).state, int(JobInfo::Held));
+        QVERIFY(isWhole(printer, 17));
+    }
+
+    void eitherProcessOfTheBackendIsKilled_data()
+    {
+        QTest::addColumn<int>("place");
+        QTest::newRow("the guard") << 0;
+        QTest::newRow("the one that prints") << 1;
+    }
+    void eitherProcessOfTheBackendIsKilled()
+    {
+        QFETCH(int, place);
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        const auto killOne = [&] {
+            QTRY_COMPARE_WITH_TIMEOUT(server.backends().size(), qsizetype(2), 10'000);
+            QList<qint64> both = server.backends();
+            std::ranges::sort(both);
+            ::kill(pid_t(both[place]), SIGKILL);
+        };
+        printer.habit("cover open");
+        const int before = server.submit(queue, ticket(20 + place)); // nothing is sent yet
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("cover-open-error"), 15'000);
+        killOne();
+        printer.habit("cover closed");
+        QCOMPARE(server.awaitState(before, {JobInfo::Completed}).sheets, 1);
+        QVERIFY(isWhole(printer, 20 + place));
+
+        printer.habit("paper 3");
+        const int after = server.submit(queue, ticket(30 + place)); // it is in the printer
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        killOne();
+        printer.habit("paper 1000");
+        const int end = place == 0 ? JobInfo::Completed : JobInfo::Held;
+        const JobInfo info = server.awaitState(after, {end});
+        QCOMPARE(info.state, end);
+        QCOMPARE(info.sheets, place == 0 ? 1 : 0);
+        QTRY_VERIFY_WITH_TIMEOUT(isWhole(printer, 30 + place), 5000);
+    }
+
+    /// The server takes such a job for printed. The next one that ends sees to it.
+    void bothProcessesOfTheBackendAreKilled_data()
+    {
+        QTest::addColumn<QByteArray>("habit");
+        QTest::addColumn<QByteArray>("reason");
+        QTest::addColumn<QByteArray>("cure");
+        QTest::addColumn<int>("end");
+        QTest::newRow("before the first byte") << QByteArray("cover open") << QByteArray("cover-open-error")
+                                               << QByteArray("cover closed") << int(JobInfo::Completed);
+        QTest::newRow("behind it") << QByteArray("paper 3") << QByteArray("media-empty-error")
+                                   << QByteArray("paper 1000") << int(JobInfo::Held);
+    }
+    void bothProcessesOfTheBackendAreKilled()
+    {
+        QFETCH(QByteArray, habit);
+        QFETCH(QByteArray, reason);
+        QFETCH(QByteArray, cure);
+        QFETCH(int, end);
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit(habit);
+        const int job = server.submit(queue, ticket(48));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains(reason), 15'000);
+        for (const qint64 process : server.backends())
+            ::kill(pid_t(process), SIGKILL);
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 0);
+        printer.habit(cure);
+        acquaint(queue);
+        QTRY_COMPARE_WITH_TIMEOUT(server.job(job).state, end, 10'000);
+        QTRY_VERIFY_WITH_TIMEOUT(isWhole(printer, 48), 5000);
+        QCOMPARE(server.job(job).message.startsWith("It is unknown whether"), end == JobInfo::Held);
+    }
+
+    /// A server that was killed reads all of its jobs twice, where its cache names one that it had not
+    /// written down.
+    void aServerThatHasAJobTwicePrintsItOnce()
+    {
+        PrinterProcess printer;
+        printer.habit("refuse on");
+        const QString queue = queueFor(printer);
+        const int job = server.submit(queue, ticket(38));
+        const int gone = server.submit(queue, ticket(37));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("offline-report"), 10'000);
+        server.kill();
+        QVERIFY(QFile::remove(server.folder() + u"/spool/c%1"_s.arg(gone, 5, 10, QChar(u'0'))));
+        const qsizetype started = server.logOf(job).count("Started backend");
+        server.start(PrintServer::Cache::Kept);
+        QVERIFY(server.errorLog().contains("Files have gone away"));
+        printer.habit("refuse off");
+        QTRY_VERIFY_WITH_TIMEOUT(server.job(job).sheets == 1, 30'000);
+        QTRY_VERIFY_WITH_TIMEOUT(server.logOf(job).count("Started backend") == started + 2, 10'000);
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 10'000);
+        QVERIFY(isWhole(printer, 38));
+        server.kill();
+        server.start(); // with each job once
+    }
+
+    /// Jobs that were printed some other way are nobody's doubt, though no sheet was counted.
+    void theJobsOfAnotherBackendStayPrinted()
+    {
+        PrinterProcess printer;
+        acquaint(queueFor(printer)); // from now on there are records
+        const ScratchFolder scripts;
+        const QString other = server.folder() + u"/bin/backend/other"_s;
+        QVERIFY(QFile::rename(scripts.write(u"other"_s, "#!/bin/sh\nexit 0\n"), other));
+        QFile::setPermissions(other, QFile::ReadOwner | QFile::ExeOwner);
+        server.addQueue(u"changed"_s, "other:/");
+        const int old = server.submit(u"changed"_s, ticket(49));
+        QCOMPARE(server.awaitState(old, {JobInfo::Completed}).state, int(JobInfo::Completed));
+        QTest::qSleep(1100); // the server notes whole seconds
+        server.addQueue(u"changed"_s, printer.uri("wait=2"));
+        acquaint(u"changed"_s);
+        acquaint(u"changed"_s);
+        QCOMPARE(printer.count(firstRow(49)), 0);
+    }
+
+    /// Two backends for one job: the second one waits, and then does not know what the server thinks of it.
+    void aJobIsPrintedByOneBackend()
+    {
+        PrinterProcess printer;
+        printer.habit("late 200");
+        const ScratchFolder files;
+        const QStringList words{
+            u"7"_s, u"user"_s, u"title"_s, u"1"_s, u"job-uuid=urn:uuid:1"_s, files.write(u"t"_s, ticket(39))};
+        const QStringList environment{u"DEVICE_URI="_s + QString::fromUtf8(printer.uri("wait=2")),
+                                      u"CUPS_CACHEDIR="_s + files.path(), u"CUPS_SERVER=/nowhere"_s};
+        QProcess first;
+        first.setEnvironment(environment);
+        first.setReadChannel(QProcess::StandardError);
+        first.start(QStringLiteral(BACKEND), words);
+        QVERIFY(first.waitForReadyRead(5000));
+        const ProgramRun second = runProgram(QStringLiteral(BACKEND), words, environment);
+        QVERIFY(first.waitForFinished(1000)); // it has ended before the second one began
+        QCOMPARE(first.exitCode(), 0);
+        QCOMPARE(second.exitStatus, 3);
+        QVERIFY2(second.standardError.contains("It is unknown whether \"title\" was printed"),
+                 second.standardError);
+        QVERIFY(isWhole(printer, 39));
+    }
+
+    /// Whole tickets stand on the roll, one behind the other, whoever sent them.
+    void ticketsNeverInterleave()
+    {
+        PrinterProcess printer;
+        printer.habit("speed 20000");
+        server.addQueue(u"first"_s, printer.uri("wait=30"));
+        server.addQueue(u"second"_s,
+                        "palvestrin://localhost:" + QByteArray::number(printer.port()) + "/?wait=30");
+        QList<int> jobs;
+        for (int count = 0; count < 8; ++count) {
+            jobs += server.submit(u"first"_s, ticket(50 + count));
+            jobs += server.submit(u"second"_s, ticket(60 + count));
+            sendRaw(printer.port(), ticket(70 + count));
+        }
+        for (const int job : jobs)
+            QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QTRY_COMPARE_WITH_TIMEOUT(printer.roll().filter(u"end "_s).size(), qsizetype(24), 20'000);
+        QString open;
+        for (const QString &row : printer.roll()) {
+            const QString owner = row.section(u' ', 1, 1).section(u'.', 0, 0);
+            if (row.startsWith(u"ticket "_s))
+                open = owner;
+            if (!owner.isEmpty())
+                QCOMPARE(owner, open);
+        }
+    }
+
+    void theDevicesAreListed()
+    {
+        const ProgramRun run = runProgram(QStringLiteral(BACKEND), {}, {});
+        QVERIFY2(run.failure.isEmpty(), run.standardError);
+        QVERIFY2(run.standardOutput.startsWith(
+                     "network palvestrin \"Unknown\" \"Receipt printer that confirms what it "
+                     "printed\""),
+                 run.standardOutput);
+    }
+
+    /// As a person may run it: without a scheduler.
+    void byHand()
+    {
+        PrinterProcess printer;
+        const ScratchFolder files;
+        const QStringList words{u"7"_s, u"user"_s, u"title"_s,
+                                u"2"_s, QString(), files.write(u"t"_s, ticket(44))};
+        const ProgramRun run = runProgram(QStringLiteral(BACKEND), words,
+                                          {u"DEVICE_URI="_s + QString::fromUtf8(printer.uri("wait=2"))});
+        QCOMPARE(run.exitStatus, 0);
+        QVERIFY2(run.standardError.contains("PAGE: total 1\nINFO: Printed: the printer confirmed it.\n"),
+                 run.standardError);
+        QCOMPARE(printer.count(lastRow(44)), 2);
+        QCOMPARE(
+            runProgram(QStringLiteral(BACKEND), words, {u"DEVICE_URI=palvestrin:/etc/passwd"_s}).exitStatus,
+            4);
+        QCOMPARE(runProgram(QStringLiteral(BACKEND), {u"7"_s}, {}).exitStatus, 1);
+    }
+
+    /// A device that answers nothing: the other end of a terminal.
+    void aSerialLine()
+    {
+        const int line = posix_openpt(O_RDWR | O_NOCTTY);
+        QVERIFY(line >= 0 && grantpt(line) == 0 && unlockpt(line) == 0);
+        server.addQueue(u"serial"_s,
+                        QByteArray("palvestrin:") + ptsname(line) + "?status=never&wait=5&baud=9600");
+        const int job = server.submit(u"serial"_s, ticket(45));
+        QByteArray got(qsizetype(ticket(45).size()), '\0');
+        qsizetype length = 0;
+        while (length < got.size()) {
+            pollfd waiting{line, POLLIN, 0};
+            QVERIFY(poll(&waiting, 1, 10'000) > 0);
+            const ssize_t count = read(line, got.data() + length, std::size_t(got.size() - length));
+            length += count > 0 ? count : 0;
+            if (count <= 0) // the other end is not open yet, or not any more
+                QTest::qSleep(5);
+        }
+        QCOMPARE(got, ticket(45));
+        QVERIFY(server.awaitState(job, {JobInfo::Completed}).message.startsWith("Sent, but not confirmed"));
+        close(line);
+    }
+
+    /// Nobody is left to hear its exit code, so it asks the server to hold the job.
+    void aBackendWithoutItsGuardTellsTheServerItself()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("paper 3");
+        const int job = server.submit(queue, ticket(40));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        QList<qint64> both = server.backends();
+        QCOMPARE(both.size(), qsizetype(2));
+        ::kill(pid_t(std::ranges::min(both)), SIGKILL);
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed, JobInfo::Held}).state, int(JobInfo::Held));
+    }
+};
+
+QTEST_GUILESS_MAIN(PrintServerTest)
+#include "printserver_test.moc"

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "command.h"
+
+/// `palvestrin print`: prints jobs through the print server, and tells what became of them.
+extern const Command printCommand;
