@@ -6,6 +6,7 @@
 #include "guard.h"
 #include "jobrecord.h"
 #include "scheduler.h"
+#include "sentences.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -19,6 +20,8 @@
 using namespace std::chrono_literals;
 
 namespace {
+
+constexpr int retryPause = 2000; // milliseconds
 
 std::string environment(const char *name, const char *otherwise = "")
 {
@@ -90,9 +93,11 @@ private:
         PrintCopy, ///< a person wants it again
         Conclude,  ///< it needs no printing
         Hold,      ///< a person must look first
+        HoldTwice, ///< the same, and the scheduler would start it twice
     };
 
     Task task() const;
+    Task taskOfReleased() const;
     Task taskAfterEnd() const;
     int deliver(const Ticket &ticket, Interruptions &interrupted);
     int conclude(Delivery::Outcome outcome, const std::string &why);
@@ -128,6 +133,9 @@ int Run::print()
         return concludeEarlier();
     if (what == Task::Hold)
         return concludeUnknown("the print server was interrupted while it was printed");
+    if (what == Task::HoldTwice)
+        return concludeUnknown(
+            "the print server was killed and lists it twice; restart it before you release the job");
     std::optional<Ticket> ticket = ticketOf(job);
     if (!ticket) {
         report.error("Not printed: the data of the job cannot be read, or not be kept until they are "
@@ -136,7 +144,7 @@ int Run::print()
         return CUPS_BACKEND_HOLD;
     }
     if (ticket->size() == 0) {
-        report.warning("The job is empty: there was nothing to print.");
+        report.warning(std::string(sentence::empty));
         record->set(JobRecord::State::Unconfirmed);
         return CUPS_BACKEND_OK;
     }
@@ -156,7 +164,7 @@ Run::Task Run::task() const
     case State::Sending:
         return Task::Hold;
     case State::Held: // a scheduler that died may have forgotten that it holds the job
-        return record->isOfThisScheduler() && scheduler::hasOnce(job.number) ? Task::PrintCopy : Task::Hold;
+        return record->isOfThisScheduler() ? taskOfReleased() : Task::Hold;
     case State::PrintedUntold:
     case State::UnconfirmedUntold:
         return Task::Conclude;
@@ -167,14 +175,23 @@ Run::Task Run::task() const
     return taskAfterEnd();
 }
 
+Run::Task Run::taskOfReleased() const
+{
+    const std::optional<bool> isOnce = scheduler::hasOnce(job.number);
+    if (!isOnce)
+        return Task::Hold;
+    return *isOnce ? Task::PrintCopy : Task::HoldTwice;
+}
+
 /// Somebody wants a job anew whose end was noted; where it was not, the scheduler died before it could. It
 /// notes whole seconds.
 Run::Task Run::taskAfterEnd() const
 {
     const std::optional<time_t> end = scheduler::endOf(job.number);
-    if (!end)
+    const std::optional<bool> isOnce = scheduler::hasOnce(job.number);
+    if (!end || !isOnce)
         return Task::Hold;
-    if (!scheduler::hasOnce(job.number))
+    if (!*isOnce)
         return Task::Conclude;
     if (*end == record->since())
         return record->isOfThisScheduler() ? Task::PrintCopy : Task::Hold;
@@ -204,7 +221,8 @@ int Run::deliver(const Ticket &ticket, Interruptions &interrupted)
         isStopped && outcome != Delivery::Outcome::Printed ? concludeStopped() : conclude(outcome, why);
     if (!folder.empty())
         saveAbandonedJobs(folder);
-    interrupted.wait(-1, 0, 0);
+    // The scheduler starts it again at once, and what is the matter may last.
+    interrupted.wait(-1, 0, code == CUPS_BACKEND_RETRY_CURRENT ? retryPause : 0);
     if (interrupted.isOrphan() && code != CUPS_BACKEND_HOLD && code != CUPS_BACKEND_CANCEL)
         handBack();
     return code;
@@ -268,7 +286,7 @@ int Run::concludePrinted()
 int Run::concludeUnconfirmed()
 {
     record->set(JobRecord::State::Unconfirmed);
-    report.warning("Sent, but not confirmed: this printer does not say what is on paper.");
+    report.warning(std::string(sentence::unconfirmed));
     stage.set(Stage::Finished);
     return CUPS_BACKEND_OK;
 }

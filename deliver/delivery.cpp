@@ -57,7 +57,7 @@ Delivery::End Delivery::takePrinter()
 {
     lock.emplace(printer);
     while (!lock->tryTake()) {
-        around.report.waiting("The printer is busy with another ticket; this one is next.");
+        around.report.waiting("The printer is busy with another ticket; this one waits for it.");
         const int holder = lock->waiter();
         if (channel.waitFor(holder, POLLIN, Clock::now() + (holder < 0 ? 20ms : 60'000ms)) == Event::Stopped)
             return Outcome::Stopped;
@@ -156,20 +156,30 @@ Delivery::End Delivery::notReady(Event event, const PrinterStatus &status, Clock
 Delivery::End Delivery::learnWhetherItProves(Answers known)
 {
     level = known == Answers::NotAsked ? Answers::Status : known;
-    if (known == Answers::Proof || known == Answers::Status)
+    const bool isRequired = address.status == DeviceAddress::Status::Required;
+    if (known == Answers::Proof || (known == Answers::Status && !isRequired))
         return {};
-    const std::string id = freshProofId();
-    const Clock::time_point until = answerTime();
-    Event event = sendAll(proofQuestion(id), until);
-    if (event == Event::Ready)
-        event = receiveUntil([&] { return answers.hasProof(id); }, until);
-    if (event == Event::Stopped)
-        return Outcome::Stopped;
-    if (event == Event::Broken)
-        return notPrinted("the connection broke off: " + channel.trouble() + ".");
+    constexpr int attempts = 2; // some printers hang up at such a question; a line may break by chance
+    Event event = Event::Broken;
+    for (int attempt = 0; attempt < attempts && event == Event::Broken; ++attempt) {
+        event = tryProof();
+        if (event == Event::Stopped)
+            return Outcome::Stopped;
+        const End end = event == Event::Broken ? reach() : End();
+        if (end)
+            return end;
+    }
     level = event == Event::Ready ? Answers::Proof : Answers::Status;
     memory->remember(level);
     return {};
+}
+
+PrinterChannel::Event Delivery::tryProof()
+{
+    const std::string id = freshProofId();
+    const Clock::time_point until = answerTime();
+    const Event event = sendAll(proofQuestion(id), until);
+    return event == Event::Ready ? receiveUntil([&] { return answers.hasProof(id); }, until) : event;
 }
 
 Delivery::End Delivery::send()
@@ -219,8 +229,9 @@ Delivery::End Delivery::awaitProof(const std::string &id)
             if (!wait.status().isReady() && !around.interrupted.isOrphan())
                 wait.extend();
         }
-        if (const int question = wait.dueQuestion(); question > 0)
-            sendAll(statusQuestion(question), Clock::now());
+        const int question = wait.dueQuestion(); // a printer that takes nothing now is asked later
+        if (question > 0 && sendAll(statusQuestion(question), Clock::now()) != Event::Ready)
+            wait.postpone();
     }
     around.report.goesOn();
     return Outcome::Printed;
@@ -268,9 +279,9 @@ PrinterChannel::Event Delivery::receiveUntil(const std::function<bool()> &isEnou
         const Event event = channel.read(bytes, until);
         if (event != Event::Ready)
             return event;
-        if (bytes.empty() && Clock::now() >= until)
-            return Event::Late;
         answers.take(bytes);
+        if (Clock::now() >= until && !isEnough()) // a printer that never stops talking is late, too
+            return Event::Late;
     }
     return Event::Ready;
 }
@@ -292,6 +303,8 @@ PrinterChannel::Event Delivery::sendAll(std::string_view bytes, Clock::time_poin
         bytes.remove_prefix(written);
         if (written > 0)
             until = Clock::now() + silence;
+        else if (Clock::now() >= until)
+            return Event::Late;
         else if (event = receiveUntil([] { return false; }, Clock::now()); event != Event::Late)
             return event;
     }

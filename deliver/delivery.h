@@ -61,6 +61,7 @@ private:
     End awaitProof(const std::string &id);
     End finishUnconfirmed();
 
+    Event tryProof();
     Event askAll(PrinterStatus &status, Clock::time_point until);
     Event receiveUntil(const std::function<bool()> &isEnough, Clock::time_point until);
     Event sendAll(std::string_view bytes, Clock::time_point until);

@@ -120,7 +120,7 @@ std::string takePlace(const UriParts &parts, std::string_view path, DeviceAddres
         address.port = parts.port;
     if (address.host.empty())
         address.path = path;
-    if (address.host.empty() && !address.path.starts_with("/dev/"))
+    if (address.host.empty() && !isBelowDev(path))
         return "it names neither a host nor a device below /dev";
     if (!address.host.empty() && path.size() > 1)
         return "behind the host there is no path; options follow a question mark";
@@ -132,6 +132,11 @@ std::string takePlace(const UriParts &parts, std::string_view path, DeviceAddres
 std::string DeviceAddress::shown() const
 {
     return host.empty() ? path : host + ", port " + std::to_string(port);
+}
+
+bool isBelowDev(std::string_view path)
+{
+    return path.starts_with("/dev/") && path.find("/../") == std::string_view::npos && !path.ends_with("/..");
 }
 
 std::optional<DeviceAddress> deviceAddress(const std::string &uri, std::string &trouble)

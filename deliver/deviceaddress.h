@@ -3,6 +3,7 @@
 #include <chrono>
 #include <optional>
 #include <string>
+#include <string_view>
 
 /// Where a printer is and how it is asked, as the URI of its queue tells:
 ///
@@ -29,6 +30,9 @@ struct DeviceAddress
     /// "192.0.2.7, port 9100" or "/dev/usb/lp0".
     std::string shown() const;
 };
+
+/// Whether the path names something in the folder of devices.
+bool isBelowDev(std::string_view path);
 
 /// Empty when the URI is wrong; then `trouble` says in a sentence why.
 std::optional<DeviceAddress> deviceAddress(const std::string &uri, std::string &trouble);

@@ -61,6 +61,12 @@ std::string recordText(JobRecord::State state, const std::string &scheduler)
     return text + '\n';
 }
 
+bool isFinished(JobRecord::State state)
+{
+    using State = JobRecord::State;
+    return state != State::New && state != State::Sending && state != State::Held;
+}
+
 int openLocked(const std::string &path)
 {
     const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
@@ -175,18 +181,18 @@ std::string identityOf(pid_t process)
     return boot + '/' + std::to_string(process) + '/' + began;
 }
 
-void changeFreeRecord(const std::string &folder, std::string_view uuid,
-                      const std::function<JobRecord::State(JobRecord::State)> &change)
+void doubtFreeRecord(const std::string &folder, std::string_view uuid, const std::function<void()> &then)
 {
     const std::string path = folder + '/' + fileName(uuid);
     const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (descriptor < 0)
         return;
     if (flock(descriptor, LOCK_EX | LOCK_NB) == 0 && isStillThere(descriptor, path)) {
-        const JobRecord::State before = wordIn(contentOf(descriptor)).state;
-        const JobRecord::State after = change(before);
-        if (after != before)
-            rewriteDurably(descriptor, recordText(after, {}));
+        const JobRecord::State state = wordIn(contentOf(descriptor)).state;
+        const bool isTold = state == JobRecord::State::Held;
+        const std::string untold = recordText(JobRecord::State::Sending, {});
+        if (!isFinished(state) && (!isTold || rewriteDurably(descriptor, untold)))
+            then();
     }
     close(descriptor);
 }

@@ -57,10 +57,10 @@ private:
 /// A text that no other process on this machine has or will have.
 std::string identityOf(pid_t process);
 
-/// Has the record of a job say what `change` makes of what it says, New when there was none, unless somebody
-/// has it open. Nobody can open it meanwhile.
-void changeFreeRecord(const std::string &folder, std::string_view uuid,
-                      const std::function<JobRecord::State(JobRecord::State)> &change);
+/// Calls `then` when the job did not come to an end and nobody has its record open; nobody can open it
+/// meanwhile. One that says that somebody was told to hold the job says no more so by then: whatever dies in
+/// between, it is not taken for a job that a person released.
+void doubtFreeRecord(const std::string &folder, std::string_view uuid, const std::function<void()> &then);
 /// Since when records have been kept in the folder; now when none are.
 time_t recordsKeptSince(const std::string &folder);
 /// Removes records that nobody needs any more.

@@ -15,6 +15,7 @@
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -129,9 +130,14 @@ PrinterChannel::Event PrinterChannel::openNetwork(Clock::time_point until)
 
 PrinterChannel::Event PrinterChannel::openDevice()
 {
+    if (!isBelowDev(resolved)) // a link may lead anywhere, and the backend may write everywhere
+        return broken(ENODEV);
     descriptor = ::open(resolved.c_str(), O_RDWR | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-    if (descriptor < 0)
+    struct stat device;
+    if (descriptor < 0 || fstat(descriptor, &device) != 0)
         return broken(errno);
+    if (!S_ISCHR(device.st_mode))
+        return broken(ENODEV);
     if (isatty(descriptor) && !setUpSerialLine(descriptor, where.baud))
         return broken(errno);
     return Event::Ready;

@@ -1,6 +1,7 @@
 #include "printqueues.h"
 
 #include "printerstatus.h"
+#include "sentences.h"
 
 #include <algorithm>
 #include <array>
@@ -27,6 +28,7 @@ constexpr std::array models{
 };
 
 constexpr auto maker = "Palvestrin "_L1;
+constexpr auto messageName = "job-printer-state-message";
 
 QString optionOf(const cups_dest_t &destination, const char *name)
 {
@@ -81,18 +83,33 @@ bool isOurs(const QString &printer)
     return textIn(answer, "device-uri").startsWith("palvestrin:"_L1);
 }
 
+bool wentThroughOurs(const Answer &job)
+{
+    const QString ofClass = textIn(job, "job-printer-uri-actual"); // the printer that a class chose
+    return isOurs(ofClass.isEmpty() ? textIn(job, "job-printer-uri") : ofClass);
+}
+
 /// The backend counts a sheet when it has the printer's word for it; those of others count what they please.
 bool isConfirmed(const Answer &job)
 {
-    const QString ofClass = textIn(job, "job-printer-uri-actual"); // the printer that a class chose
-    return numberIn(job, "job-media-sheets-completed") > 0 &&
-           isOurs(ofClass.isEmpty() ? textIn(job, "job-printer-uri") : ofClass);
+    return numberIn(job, "job-media-sheets-completed") > 0 && wentThroughOurs(job);
+}
+
+/// The server takes a job for printed whose backend was killed, and that one could not say how it ended.
+PrintJob::State stateOfUnconfirmed(const Answer &job)
+{
+    const QByteArray message = textIn(job, messageName).toUtf8();
+    const bool isTold = std::ranges::any_of(
+        std::array{sentence::unconfirmed, sentence::empty},
+        [&](std::string_view sentence) { return message.startsWith(QByteArrayView(sentence)); });
+    return isTold || !wentThroughOurs(job) ? PrintJob::State::NotConfirmed : PrintJob::State::Abandoned;
 }
 
 /// A server that was killed while it noted the end may call a job pending that is confirmed.
-PrintJob::State stateOf(int state, bool isConfirmed)
+PrintJob::State stateOf(const Answer &job)
 {
-    if (isConfirmed && state != IPP_JSTATE_HELD)
+    const int state = numberIn(job, "job-state");
+    if (state != IPP_JSTATE_HELD && isConfirmed(job))
         return PrintJob::State::Printed;
     switch (state) {
     case IPP_JSTATE_PENDING:
@@ -102,7 +119,7 @@ PrintJob::State stateOf(int state, bool isConfirmed)
     case IPP_JSTATE_HELD:
         return PrintJob::State::Held;
     case IPP_JSTATE_COMPLETED:
-        return PrintJob::State::NotConfirmed;
+        return stateOfUnconfirmed(job);
     default:
         return PrintJob::State::Failed;
     }
@@ -174,8 +191,9 @@ std::optional<int> submitJob(const QString &queue, const QString &title, QIODevi
     const bool isSent = begun == HTTP_STATUS_CONTINUE && sendData(data);
     if (isSent && cupsFinishDocument(CUPS_HTTP_DEFAULT, name.constData()) <= IPP_STATUS_OK_EVENTS_COMPLETE)
         return job;
-    cupsCancelJob2(CUPS_HTTP_DEFAULT, name.constData(), job, 0);
-    return {};
+    if (cupsCancelJob2(CUPS_HTTP_DEFAULT, name.constData(), job, 0) <= IPP_STATUS_OK_EVENTS_COMPLETE)
+        return {};
+    return job; // the answer was lost, and perhaps not the job
 }
 
 PrintJob printJob(int number)
@@ -189,8 +207,7 @@ PrintJob printJob(int number)
         return {};
     if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
         return {PrintJob::State::Waiting, u"The print server does not answer: "_s + serverTrouble()};
-    return {stateOf(numberIn(answer, "job-state"), isConfirmed(answer)),
-            textIn(answer, "job-printer-state-message")};
+    return {stateOf(answer), textIn(answer, messageName)};
 }
 
 QString serverTrouble()

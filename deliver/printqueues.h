@@ -25,7 +25,7 @@ struct PrintQueue
 
 struct PrintJob
 {
-    enum class State { Waiting, Printing, Held, Printed, NotConfirmed, Failed, Gone };
+    enum class State { Waiting, Printing, Held, Printed, NotConfirmed, Abandoned, Failed, Gone };
 
     State state = State::Gone;
     QString message; ///< of the backend

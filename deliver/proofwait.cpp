@@ -8,6 +8,12 @@ int ProofWait::dueQuestion()
     return question;
 }
 
+void ProofWait::postpone()
+{
+    isAsked = false;
+    askAt = Clock::now() + pause;
+}
+
 bool ProofWait::take(unsigned char answer)
 {
     if (!isAsked)

@@ -16,6 +16,8 @@ public:
     Clock::time_point next() const { return isAsked ? until : std::min(until, askAt); }
     /// The question that is due, 0 when none is.
     int dueQuestion();
+    /// The question could not be asked.
+    void postpone();
     /// True when the answer was the last one of a round.
     bool take(unsigned char answer);
     const PrinterStatus &status() const { return known; }

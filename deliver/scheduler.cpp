@@ -39,19 +39,26 @@ constexpr const char *wantedOfJobs[] = {"job-id",
                                         "job-media-sheets-completed",
                                         "time-at-processing"};
 constexpr int jobsLookedAt = 50;
-constexpr int allJobs = 1'000'000;
 
-/// The attributes of jobs that are "completed", the last ones first, or of "all".
-Answer jobs(const char *which, int most)
+/// The attributes of jobs that are "completed", the last ones first, or of "all". `limit` is the operation's
+/// attribute that bounds them.
+Answer jobs(const char *which, const char *limit, int value)
 {
     ipp_t *request = ippNewRequest(IPP_OP_GET_JOBS);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, "ipp://localhost/");
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, which);
-    ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, "limit", most);
+    ippAddInteger(request, IPP_TAG_OPERATION, IPP_TAG_INTEGER, limit, value);
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   int(std::size(wantedOfJobs)), nullptr, wantedOfJobs);
     return {cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"), ippDelete};
+}
+
+/// "" when it has no value.
+std::string textOf(ipp_attribute_t *attribute)
+{
+    const char *const text = ippGetString(attribute, 0, nullptr);
+    return text ? text : "";
 }
 
 /// One job of an answer, attribute by attribute.
@@ -77,11 +84,11 @@ struct JobReader
         else if (name == "time-at-processing")
             started = ippGetInteger(attribute, 0);
         else if (name == "job-uuid")
-            uuid = ippGetString(attribute, 0, nullptr);
+            uuid = textOf(attribute);
         else if (name == "job-printer-uri")
-            queue = ippGetString(attribute, 0, nullptr);
+            queue = textOf(attribute);
         else if (name == "job-printer-uri-actual")
-            printer = ippGetString(attribute, 0, nullptr);
+            printer = textOf(attribute);
     }
     bool isDoubtful() const
     {
@@ -153,10 +160,12 @@ std::optional<time_t> scheduler::endOf(int job)
     return end ? ippGetInteger(end, 0) : 0;
 }
 
-bool scheduler::hasOnce(int job)
+std::optional<bool> scheduler::hasOnce(int job)
 {
-    const Answer answer = jobs("all", allJobs);
-    return isGood(answer) && std::ranges::count(jobsIn(answer), job, &JobReader::number) == 1;
+    const Answer answer = jobs("all", "first-job-id", job);
+    if (!isGood(answer))
+        return {};
+    return std::ranges::count(jobsIn(answer), job, &JobReader::number) == 1;
 }
 
 bool scheduler::hold(int job)
@@ -171,7 +180,7 @@ bool scheduler::release(int job)
 
 std::vector<scheduler::DoubtfulJob> scheduler::doubtfulJobs(time_t since)
 {
-    const Answer answer = jobs("completed", jobsLookedAt);
+    const Answer answer = jobs("completed", "limit", jobsLookedAt);
     if (!isGood(answer))
         return {};
     std::vector<DoubtfulJob> doubtful;

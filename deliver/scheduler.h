@@ -13,7 +13,8 @@ namespace scheduler {
 std::optional<time_t> endOf(int job);
 
 /// Whether it has the job once. One that was killed may read its jobs twice, and start each of them twice.
-bool hasOnce(int job);
+/// Empty when it does not say.
+std::optional<bool> hasOnce(int job);
 
 // For a backend whose guard was killed: its exit code reaches nobody.
 

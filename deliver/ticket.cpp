@@ -54,11 +54,13 @@ std::string bytesOf(QByteArrayView bytes)
 }
 
 /// Receipt printers are initialised at the start of a job, behind zero bytes that free them from a torn
-/// picture.
-bool isForReceiptPrinter(const std::string &beginning)
+/// picture. How many these are; empty when the ticket is for something else.
+std::optional<std::size_t> zerosBeforeInitialisation(const std::string &beginning)
 {
     const std::size_t place = beginning.find_first_not_of('\0');
-    return place != std::string::npos && beginning.compare(place, 2, bytesOf(command::initialise)) == 0;
+    const bool isThere =
+        place != std::string::npos && beginning.compare(place, 2, bytesOf(command::initialise)) == 0;
+    return isThere ? std::optional(place) : std::nullopt;
 }
 
 } // namespace
@@ -99,11 +101,12 @@ Ticket::~Ticket()
 
 void Ticket::markAsCopy()
 {
-    if (!isForReceiptPrinter(piece(0)))
+    const std::optional<std::size_t> zeros = zerosBeforeInitialisation(piece(0));
+    if (!zeros)
         return;
     const auto with = [](QByteArrayView command, char parameter) { return bytesOf(command) + parameter; };
-    head = bytesOf(command::initialise) + bytesOf(command::leaveChinese) + with(command::size, 0x11) +
-           "COPY" + command::lineEnd + with(command::size, 0x00);
+    head = std::string(*zeros, '\0') + bytesOf(command::initialise) + bytesOf(command::leaveChinese) +
+           with(command::size, 0x11) + "COPY" + command::lineEnd + with(command::size, 0x00);
 }
 
 std::string Ticket::piece(off_t place) const

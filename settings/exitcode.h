@@ -63,6 +63,6 @@ inline constexpr std::array exitCodeMeanings{
     ExitCodeMeaning{ExitCode::StillWaiting,
                     QLatin1StringView("It is not printed yet; the print server keeps it.")},
     ExitCodeMeaning{ExitCode::Unknown,
-                    QLatin1StringView("It is held, for nobody knows whether it is on paper.")},
-    ExitCodeMeaning{ExitCode::PrintFailed, QLatin1StringView("It is not printed, and will not be.")},
+                    QLatin1StringView("Nobody knows whether it is on paper; mostly it is held.")},
+    ExitCodeMeaning{ExitCode::PrintFailed, QLatin1StringView("The print server does not take it, or gave it up.")},
 };

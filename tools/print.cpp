@@ -68,9 +68,13 @@ constexpr Outcome outcomes[] = {
     {PrintJob::State::Printed, "printed"_L1, "printed"_L1, ExitCode::Done},
     {PrintJob::State::NotConfirmed, "not-confirmed"_L1, "sent, but not confirmed"_L1, ExitCode::NotConfirmed},
     {PrintJob::State::Held, "held"_L1, "held"_L1, ExitCode::Unknown},
-    {PrintJob::State::Failed, "failed"_L1, "not printed: the job was ended"_L1, ExitCode::PrintFailed},
-    {PrintJob::State::Gone, "failed"_L1, "not printed: the print server knows nothing of it"_L1,
-     ExitCode::PrintFailed},
+    {PrintJob::State::Abandoned, "unknown"_L1,
+     "unknown: the backend was killed; look for the ticket at the printer"_L1, ExitCode::Unknown},
+    {PrintJob::State::Gone, "unknown"_L1,
+     "unknown: the print server knows nothing of it any more; look for the ticket at the printer"_L1,
+     ExitCode::Unknown},
+    {PrintJob::State::Failed, "failed"_L1,
+     "the job was ended; look at the printer whether a part of it is on paper"_L1, ExitCode::PrintFailed},
     {PrintJob::State::Waiting, "waiting"_L1, "not printed yet"_L1, ExitCode::StillWaiting},
     {PrintJob::State::Printing, "waiting"_L1, "not printed yet"_L1, ExitCode::StillWaiting},
 };
@@ -147,13 +151,13 @@ QByteArray profileFor(const CommandLine &line, const PrintQueue &queue, const Fi
     return profile == "line"_L1 ? QByteArray() : profile.toLatin1();
 }
 
-/// Runs this program's own check on the job. Throws a CommandError (Errors) when it finds some, which are
-/// told by then.
+/// Runs this program's own check on the job. Throws a CommandError (Errors) when it finds some, or cannot
+/// tell; why is told by then.
 void requireSound(const FileName &file)
 {
-    const ChildProgram check{u"/proc/self/exe"_s, {"check", "--as", "job", file.bytes()}};
+    const ChildProgram check{u"/proc/self/exe"_s, {"check", "--as", "job", "--", file.bytes()}};
     const int status = runChild(check, [](const QByteArray &line) { std::cerr << line.constData() << '\n'; });
-    if (status == int(ExitCode::Errors))
+    if (status != int(ExitCode::Done) && status != int(ExitCode::Warnings))
         throw CommandError(ExitCode::Errors, file, u"the job has errors; it was not printed"_s);
 }
 
@@ -213,12 +217,14 @@ bool isOver(PrintJob::State state)
 
 QString sentenceOf(const Submitted &submitted)
 {
-    QString text = outcomeOf(submitted.job.state).sentence;
-    if (!submitted.job.message.isEmpty() && submitted.job.state != PrintJob::State::Printed)
-        text = submitted.job.message;
-    return u"%1: job %2 on %3: %4"_s.arg(submitted.file.shown())
-        .arg(submitted.number)
-        .arg(submitted.queue, text);
+    using State = PrintJob::State;
+    const State state = submitted.job.state;
+    const bool isOwnMessage = state != State::Printed && state != State::Abandoned && state != State::Gone;
+    const QString text = isOwnMessage && !submitted.job.message.isEmpty()
+                             ? submitted.job.message
+                             : QString(outcomeOf(state).sentence);
+    return u"%1: job %2 on %3: %4"_s.arg(submitted.file.shown(), QString::number(submitted.number),
+                                         submitted.queue, text);
 }
 
 /// One line, written over and over.

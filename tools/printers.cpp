@@ -89,8 +89,8 @@ QByteArray uriOf(const QString &address, const QString &model)
         uri = u"palvestrin:"_s + address;
     else if (!address.contains("://"_L1) && !address.startsWith("palvestrin:"_L1))
         uri = u"palvestrin://"_s + address;
-    if (model == "line"_L1 && !uri.contains(u'?'))
-        uri += u"?status=never"_s;
+    if (model == "line"_L1 && !uri.contains("status="_L1))
+        uri += (uri.contains(u'?') ? u'&' : u'?') + u"status=never"_s;
     static const QRegularExpression portBeforeOptions(u"^(palvestrin://[^/?]+)\\?"_s);
     return uri.replace(portBeforeOptions, u"\\1/?"_s).toUtf8(); // lpadmin wants the slash
 }

@@ -58,6 +58,8 @@ private Q_SLOTS:
         row("palvestrin://kitchen?status=maybe", "status is one of required, ask and never");
         row("palvestrin://kitchen?wait=0", "wait is a number of seconds from 1 to 86400");
         row("palvestrin://kitchen?wait=7s", "wait is a number of seconds from 1 to 86400");
+        row("palvestrin:/dev/../etc/passwd", "it names neither a host nor a device below /dev");
+        row("palvestrin:/dev/shm/..", "it names neither a host nor a device below /dev");
         row("palvestrin:/dev/ttyS0?baud=x", "baud is the speed of a serial line, such as 9600");
         row("palvestrin://kitchen?stat=never",
             "there is no option \"stat=never\"; there are status, wait and baud");

@@ -13,6 +13,8 @@
 #include <QJsonObject>
 #include <QTest>
 
+#include <csignal>
+
 using namespace Qt::Literals::StringLiterals;
 
 class PrintCommandTest : public QObject
@@ -109,12 +111,35 @@ private Q_SLOTS:
         server.addQueue(u"Cassa"_s, printer.uri("wait=2"));
     }
 
+    /// The server takes it for printed, and nobody knows.
+    void aKilledBackendIsNoTicket()
+    {
+        printer.habit("cover open");
+        QProcess print;
+        print.setEnvironment(environment());
+        print.start(QStringLiteral(PALVESTRIN_PROGRAM), {u"print"_s, u"--wait"_s, u"30"_s, job});
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(u"Cassa"_s).contains("cover-open-error"), 15'000);
+        for (const qint64 process : server.backends())
+            ::kill(pid_t(process), SIGKILL);
+        QVERIFY(print.waitForFinished(15'000));
+        QCOMPARE(print.exitCode(), 15);
+        const QByteArray said = print.readAllStandardOutput();
+        QVERIFY2(
+            said.endsWith(" on Cassa: unknown: the backend was killed; look for the ticket at the printer\n"),
+            said);
+        printer.habit("cover closed");
+        const int before = rowsWith(u"PRECONTO"_s);
+        server.awaitState(server.submit(u"Cassa"_s, ticket(3)), {JobInfo::Completed});
+        QTRY_COMPARE_WITH_TIMEOUT(rowsWith(u"PRECONTO"_s), before + 1, 10'000); // the next job saw to it
+    }
+
     void theQueueIsTheOneThatTheJobNames()
     {
+        const int before = rowsWith(u"PRECONTO"_s);
         const ProgramRun outcome = run({u"print"_s, job});
         QVERIFY2(outcome.failure.isEmpty(), outcome.standardError);
         QVERIFY2(outcome.standardOutput.endsWith(" on Cassa: printed\n"), outcome.standardOutput);
-        QCOMPARE(rowsWith(u"PRECONTO"_s), 2);
+        QCOMPARE(rowsWith(u"PRECONTO"_s), before + 1);
     }
 
     /// The settings want two invoices; the line printer's are asked of the server, the receipt printer's are

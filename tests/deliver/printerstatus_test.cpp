@@ -1,6 +1,7 @@
 // What printers are asked, and what their answers mean.
 
 #include "printerstatus.h"
+#include "proofwait.h"
 
 #include <QTest>
 
@@ -24,6 +25,20 @@ private:
     }
 
 private Q_SLOTS:
+    /// A printer that takes no question at present is asked again, and the same.
+    void aQuestionThatWasNotTakenIsAskedLater()
+    {
+        using namespace std::chrono_literals;
+        ProofWait wait(Clock::now() + 1min, 1min);
+        QTest::qSleep(1100);
+        QCOMPARE(wait.dueQuestion(), 1);
+        QCOMPARE(wait.dueQuestion(), 0); // it is under way
+        wait.postpone();
+        QVERIFY(wait.next() < Clock::now() + 2s);
+        QTest::qSleep(1100);
+        QCOMPARE(wait.dueQuestion(), 1);
+    }
+
     void questions()
     {
         QCOMPARE(hex(statusQuestion(1)), QByteArray("10 04 01"));

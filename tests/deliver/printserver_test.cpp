@@ -224,6 +224,43 @@ private Q_SLOTS:
         QVERIFY(isWhole(printer, 9));
     }
 
+    void aFloodIsNoAnswer()
+    {
+        PrinterProcess printer;
+        printer.habit("status flood");
+        const int job = server.submit(queueFor(printer), ticket(24));
+        const JobInfo info = server.awaitState(job, {JobInfo::Completed});
+        QCOMPARE(info.state, int(JobInfo::Completed));
+        QVERIFY2(info.message.startsWith("Sent, but not confirmed"), info.message);
+        QVERIFY(isWhole(printer, 24));
+    }
+
+    void aPrinterThatHangsUpAtTheProof()
+    {
+        PrinterProcess printer;
+        printer.habit("vanish always");
+        const int job = server.submit(queueFor(printer), ticket(25));
+        const JobInfo info = server.awaitState(job, {JobInfo::Completed});
+        QCOMPARE(info.state, int(JobInfo::Completed));
+        QVERIFY2(info.message.startsWith("Sent, but not confirmed"), info.message);
+        QVERIFY(isWhole(printer, 25));
+    }
+
+    /// The server starts it again at once, so the backend takes its time.
+    void whatCannotBeIsNotTriedWithoutAPause()
+    {
+        PrinterProcess printer;
+        printer.habit("status unproven");
+        const int job = server.submit(queueFor(printer, "status=required&wait=1"), ticket(26));
+        QTRY_VERIFY_WITH_TIMEOUT(server.job(job).message.contains("cannot confirm what is on paper"), 15'000);
+        const qsizetype started = server.logOf(job).count("Started backend");
+        QTest::qSleep(4000);
+        QVERIFY(server.logOf(job).count("Started backend") <= started + 2);
+        QCOMPARE(printer.count(firstRow(26)), 0);
+        printer.habit("status on");
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+    }
+
     void aPrinterThatAnswersNothing()
     {
         PrinterProcess printer;

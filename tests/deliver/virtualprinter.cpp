@@ -33,9 +33,9 @@ const VirtualPrinter::Habit VirtualPrinter::habits[] = {
     {"reset",
      &VirtualPrinter::setReset}, // the connection is reset when so many more bytes of tickets have come
     {"speed", &VirtualPrinter::setSpeed},   // bytes a second
-    {"status", &VirtualPrinter::setStatus}, // on, off, garbage
+    {"status", &VirtualPrinter::setStatus}, // on, off, garbage, flood, unproven: on, but without the proof
     {"late", &VirtualPrinter::setLate},     // milliseconds before an answer is sent
-    {"vanish", &VirtualPrinter::setVanish}, // on: the connection is closed instead of the next proof
+    {"vanish", &VirtualPrinter::setVanish}, // on: the connection is closed instead of the next proof; always
 };
 
 void VirtualPrinter::Roll::row(const paper::Row &row)
@@ -102,7 +102,7 @@ void VirtualPrinter::setLate(const std::string &value)
 }
 void VirtualPrinter::setVanish(const std::string &value)
 {
-    vanishes = value == "on";
+    vanish = value;
 }
 
 void VirtualPrinter::setRefuse(const std::string &value)
@@ -136,7 +136,8 @@ void VirtualPrinter::listen()
 
 void VirtualPrinter::work(int control)
 {
-    const bool isIdle = answers.empty() && speed == 0 && (buffer.isEmpty() || !canPrint());
+    const bool isIdle =
+        status != "flood" && answers.empty() && speed == 0 && (buffer.isEmpty() || !canPrint());
     pollfd descriptors[] = {{control, POLLIN, 0},
                             {connection < 0 ? listener : -1, POLLIN, 0},
                             {canReceive() && speed == 0 ? connection : -1, POLLIN, 0}};
@@ -212,7 +213,7 @@ void VirtualPrinter::takeRealTime(char byte)
 
 QByteArray VirtualPrinter::statusAnswer(int question) const
 {
-    if (status == "garbage")
+    if (status == "garbage" || status == "flood")
         return QByteArray("\xFF\x00\xA5\xC3", 4);
     char byte = ready;
     if (question == 1 && !canPrint())
@@ -249,12 +250,12 @@ bool VirtualPrinter::answerProof()
         return false;
     const QByteArray id = buffer.mid(proofHead.size(), 4);
     buffer.remove(0, proofLength);
-    if (vanishes) {
-        vanishes = false;
+    if (vanish != "off") {
+        vanish = vanish == "always" ? "always" : "off";
         drop(false);
-    } else if (status == "garbage") {
+    } else if (status == "garbage" || status == "flood") {
         answer("\x37\x21" + id);
-    } else {
+    } else if (status != "unproven") {
         answer("\x37\x22" + id + '\0');
     }
     return true;
@@ -268,6 +269,8 @@ void VirtualPrinter::answer(const QByteArray &bytes)
 
 void VirtualPrinter::sendDueAnswers()
 {
+    if (status == "flood" && connection >= 0)
+        send(connection, QByteArray(4096, '\xFF').constData(), 4096, MSG_NOSIGNAL);
     while (!answers.empty() && answers.front().due <= Clock::now()) {
         const QByteArray bytes = answers.front().bytes;
         answers.pop_front();

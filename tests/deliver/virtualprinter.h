@@ -103,7 +103,7 @@ private:
     int speed = 0;         ///< bytes a second; 0: as fast as can be
     std::string status = "on";
     std::chrono::milliseconds late{0};
-    bool vanishes = false;
+    std::string vanish = "off";
 
     std::ofstream output;
     Roll roll;
