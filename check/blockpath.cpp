@@ -1,6 +1,7 @@
 #include "blockpath.h"
 
 #include "discreet.h"
+#include "usercatalogue.h"
 #include "words.h"
 
 #include <QStringList>
@@ -14,7 +15,10 @@ namespace check {
 namespace {
 
 constexpr auto outermost = "palvestrin"_L1;
-constexpr auto listAdvice = "\"palvestrin config list\" lists the settings that programs read"_L1;
+QString listAdvice()
+{
+    return UserWords::tr("\"palvestrin config list\" lists the settings that programs read");
+}
 
 QStringList namesOfBlocks()
 {
@@ -84,17 +88,17 @@ void BlockPath::enter(const QString &name, Place place, bool isTold)
 void BlockPath::tellSecondBlock(const QString &name, Place place)
 {
     sink.take({named("second-block"), place,
-               u"the block %1 is never looked into: only the first one of a file is"_s.arg(
-                   discreet(name.toLatin1())),
-               name == outermost ? u"move it to the front, and what is there into it"_s
-                                 : u"move its settings into the first block"_s});
+               UserWords::tr("the block %1 is never looked into: only the first one of a file is")
+                   .arg(discreet(name.toLatin1())),
+               name == outermost ? UserWords::tr("move it to the front, and what is there into it")
+                                 : UserWords::tr("move its settings into the first block")});
 }
 
 void BlockPath::tellUnknownBlock(const QString &name, Place place)
 {
     sink.take({named("unknown-block"), place,
-               u"no program looks into the block %1"_s.arg(discreet(keyOf(name).toLatin1())),
-               mayAdvise() ? blockHint(name) : QString(listAdvice)});
+               UserWords::tr("no program looks into the block %1").arg(discreet(keyOf(name).toLatin1())),
+               mayAdvise() ? blockHint(name) : listAdvice()});
 }
 
 QString BlockPath::blockHint(const QString &name) const
@@ -103,11 +107,11 @@ QString BlockPath::blockHint(const QString &name) const
     QStringList here;
     for (const QString &path : knownBlocks()) {
         if (path == outermost + u'.' + name)
-            return u"it belongs into the block \"%1\""_s.arg(outermost);
+            return UserWords::tr("it belongs into the block \"%1\"").arg(outermost);
         if (path.section(u'.', 0, -2) == parent)
             here += path.section(u'.', -1);
     }
-    return didYouMean(name, here, listAdvice);
+    return didYouMean(name, here, listAdvice());
 }
 
 void BlockPath::leave()
@@ -118,7 +122,7 @@ void BlockPath::leave()
     if (!block.hasItems && block.isFound) {
         sink.take({named("no-effect"),
                    block.place,
-                   u"the block %1 is empty, which is the same as none"_s.arg(quoted(block.name)),
+                   UserWords::tr("the block %1 is empty, which is the same as none").arg(quoted(block.name)),
                    {}});
     }
     blocks.pop_back();
@@ -142,12 +146,14 @@ void BlockPath::tellUnknownKey(const QString &name, Place place)
 {
     if (blocks.empty()) {
         sink.take({named("unknown-key"), place,
-                   u"%1 stands outside the blocks, where no program looks"_s.arg(discreet(name.toLatin1())),
-                   u"move it into a block of the block \"%1\""_s.arg(outermost)});
+                   UserWords::tr("%1 stands outside the blocks, where no program looks")
+                       .arg(discreet(name.toLatin1())),
+                   UserWords::tr("move it into a block of the block \"%1\"").arg(outermost)});
         return;
     }
-    sink.take({named("unknown-key"), place, u"no program reads %1"_s.arg(discreet(keyOf(name).toLatin1())),
-               mayAdvise() ? keyHint(name) : QString(listAdvice)});
+    sink.take({named("unknown-key"), place,
+               UserWords::tr("no program reads %1").arg(discreet(keyOf(name).toLatin1())),
+               mayAdvise() ? keyHint(name) : listAdvice()});
 }
 
 QString BlockPath::keyHint(const QString &name) const
@@ -155,14 +161,14 @@ QString BlockPath::keyHint(const QString &name) const
     const QString key = keyOf(name);
     for (const QString &dotted : {name, key}) {
         if (name.contains(u'.') && knownkeys::find(dotted)) {
-            return u"a name has no dots: put %1 into the block %2"_s.arg(
-                quoted(dotted.section(u'.', -1)), quoted(dotted.section(u'.', -2, -2)));
+            return UserWords::tr("a name has no dots: put %1 into the block %2")
+                .arg(quoted(dotted.section(u'.', -1)), quoted(dotted.section(u'.', -2, -2)));
         }
     }
     if (const QString block = blockWith(name); blocks.size() == 1 && !block.isEmpty())
-        return u"it belongs into a block, such as %1"_s.arg(quoted(block));
+        return UserWords::tr("it belongs into a block, such as %1").arg(quoted(block));
     const QString meant = knownkeys::closest(key);
-    return meant.isEmpty() ? QString(listAdvice) : u"did you mean %1?"_s.arg(quoted(meant));
+    return meant.isEmpty() ? listAdvice() : UserWords::tr("did you mean %1?").arg(quoted(meant));
 }
 
 } // namespace check

@@ -6,6 +6,7 @@
 #include "otherfile.h"
 #include "settingsinforce.h"
 #include "settingstogether.h"
+#include "usercatalogue.h"
 
 #include <QIODevice>
 
@@ -17,7 +18,8 @@ namespace {
 
 void tellOther(const QString &what, const QString &hint, FindingSink &sink)
 {
-    sink.take({named("no-configuration"), {}, u"this is no configuration but %1"_s.arg(what), hint});
+    sink.take(
+        {named("no-configuration"), {}, UserWords::tr("this is no configuration but %1").arg(what), hint});
 }
 
 void checkAs(const QByteArray &content, bool isXml, FindingSink &sink, const Surroundings *surroundings)
@@ -37,10 +39,10 @@ void checkConfiguration(QIODevice &text, FindingSink &sink, const Surroundings *
     const QByteArray content = text.read(longestConfiguration + 1);
     const bool isXml = form::isXml(content);
     if (const QString what = otherFile(content, isXml); !what.isEmpty())
-        tellOther(what, u"\"palvestrin config set\" begins a new file"_s, sink);
+        tellOther(what, UserWords::tr("\"palvestrin config set\" begins a new file"), sink);
     else if (isXml && surroundings)
-        tellOther(u"XML, and the programs read this file as text"_s,
-                  u"\"palvestrin config convert\" makes it text"_s, sink);
+        tellOther(UserWords::tr("XML, and the programs read this file as text"),
+                  UserWords::tr("\"palvestrin config convert\" makes it text"), sink);
     else
         checkAs(content, isXml, sink, surroundings);
 }

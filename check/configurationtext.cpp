@@ -3,6 +3,7 @@
 #include "discreet.h"
 #include "droppedtext.h"
 #include "readitem.h"
+#include "usercatalogue.h"
 #include "valuetext.h"
 #include "words.h"
 
@@ -49,7 +50,7 @@ public:
             break;
         case TokenKind::Stray:
             stray = token.bytes.toByteArray();
-            tellStray(token, u"belongs to no setting and is dropped"_s);
+            tellStray(token, UserWords::tr("belongs to no setting and is dropped"));
             break;
         case TokenKind::CloseBrace:
             closeBlock(token);
@@ -70,14 +71,14 @@ public:
     {
         if (isBraceMissing) {
             sink.take({named("missing-brace"), block.place,
-                       u"the block %1 has no \"{\": everything behind its name is dropped"_s.arg(
-                           discreet(block.name.toLatin1())),
-                       u"put a \"{\" behind its name and the \":\""_s});
+                       UserWords::tr("the block %1 has no \"{\": everything behind its name is dropped")
+                           .arg(discreet(block.name.toLatin1())),
+                       UserWords::tr("put a \"{\" behind its name and the \":\"")});
         }
         for (const ReadItem &item : opened) {
             sink.take({named("unclosed-block"), item.place,
-                       u"the block %1 is never closed"_s.arg(discreet(item.name.toLatin1())),
-                       u"put \"};\" where it ends"_s});
+                       UserWords::tr("the block %1 is never closed").arg(discreet(item.name.toLatin1())),
+                       UserWords::tr("put \"};\" where it ends")});
         }
     }
 
@@ -91,7 +92,7 @@ private:
         isBraceMissing = isBraceMissing && names.empty();
         block.isTold = block.isTold || !names.empty();
         if (names.empty() && !block.isRemark)
-            tellStray(token, u"stands between a block's name and its \"{\" and is dropped"_s);
+            tellStray(token, UserWords::tr("stands between a block's name and its \"{\" and is dropped"));
         isHarmless = names.empty();
     }
 
@@ -100,22 +101,23 @@ private:
         if (block.isRemark) {
             sink.take(
                 {named("remark"), name.place,
-                 u"%1 is lost: the \":\" of the remark in line %2 drops everything up to the next \"{\""_s
+                 UserWords::tr(
+                     "%1 is lost: the \":\" of the remark in line %2 drops everything up to the next \"{\"")
                      .arg(quoted(name.name), QString::number(block.place.line)),
-                 u"take the remark out; this form of file has no remarks"_s});
+                 UserWords::tr("take the remark out; this form of file has no remarks")});
         } else {
-            sink.take(
-                {named("missing-brace"), name.place,
-                 u"%1 is lost: the block %2 in line %3 has no \"{\" of its own"_s.arg(
-                     quoted(name.name), discreet(block.name.toLatin1()), QString::number(block.place.line)),
-                 u"put a \"{\" behind the \":\" of that block"_s});
+            sink.take({named("missing-brace"), name.place,
+                       UserWords::tr("%1 is lost: the block %2 in line %3 has no \"{\" of its own")
+                           .arg(quoted(name.name), discreet(block.name.toLatin1()),
+                                QString::number(block.place.line)),
+                       UserWords::tr("put a \"{\" behind the \":\" of that block")});
         }
     }
 
     void openBlock()
     {
         if (block.isRemark && isHarmless)
-            tellDisabled(block, u"a block"_s);
+            tellDisabled(block, UserWords::tr("a block"));
         path.enter(block.name, block.place, block.isTold);
         opened.push_back(block);
         isBraceMissing = false;
@@ -124,16 +126,17 @@ private:
 
     void tellDisabled(const ReadItem &item, const QString &what)
     {
-        sink.take({named("disabled-line"), item.place,
-                   u"this remark is read as %1 of an odd name, which nobody looks for"_s.arg(what),
-                   u"this form of file has no remarks"_s});
+        sink.take(
+            {named("disabled-line"), item.place,
+             UserWords::tr("this remark is read as %1 of an odd name, which nobody looks for").arg(what),
+             UserWords::tr("this form of file has no remarks")});
     }
 
     void takeValue(const Token &token)
     {
         const bool isSpoiled = checkValueText(token, key, sink);
         if (key.isRemark && !isSpoiled)
-            tellDisabled(key, u"a setting"_s);
+            tellDisabled(key, UserWords::tr("a setting"));
         path.add(key.name, {token.value(), key.place, placeOf(token.textAt())}, key.isTold || isSpoiled);
     }
 
@@ -141,9 +144,9 @@ private:
     {
         if (endsInRemark(stray)) {
             sink.take({named("remark"), placeOf(token.at),
-                       u"the \"}\" in the remark %1 ends the block here"_s.arg(
-                           discreet(stray.sliced(stray.lastIndexOf('\n') + 1).trimmed())),
-                       u"take the remark out; this form of file has no remarks"_s});
+                       UserWords::tr("the \"}\" in the remark %1 ends the block here")
+                           .arg(discreet(stray.sliced(stray.lastIndexOf('\n') + 1).trimmed())),
+                       UserWords::tr("take the remark out; this form of file has no remarks")});
         }
         stray.clear();
         lastBrace = placeOf(token.at);
@@ -159,7 +162,7 @@ private:
             return;
         sink.take({named("stray-text"), placeOf(token.textAt()),
                    u"%1 %2"_s.arg(discreet(token.bytes.toByteArray()), what),
-                   u"take it out, or put in the \"=\" or \";\" that it lacks"_s});
+                   UserWords::tr("take it out, or put in the \"=\" or \";\" that it lacks")});
     }
 
     void tellBehindBrace(const Token &token)
@@ -174,21 +177,22 @@ private:
     void tellSkipped(const QString &what, Place place)
     {
         sink.take({named("missing-semicolon"), place,
-                   u"%1 is skipped: the \";\" behind the \"}\" in line %2 is missing"_s.arg(
-                       what, QString::number(lastBrace.line)),
-                   u"put a \";\" behind that brace"_s});
+                   UserWords::tr("%1 is skipped: the \";\" behind the \"}\" in line %2 is missing")
+                       .arg(what, QString::number(lastBrace.line)),
+                   UserWords::tr("put a \";\" behind that brace")});
     }
 
     void tellUnread(const Token &token)
     {
         if (token.isBlank())
             return;
-        sink.take(
-            {named("unread"), placeOf(token.textAt()),
-             isEnded
-                 ? u"nothing from here on is read: the \"}\" in line %1 closes no block"_s.arg(lastBrace.line)
-                 : u"nothing from here on is read: blocks nest deeper than %1"_s.arg(libconfig::maxDepth),
-             isEnded ? u"take that brace out"_s : QString()});
+        sink.take({named("unread"), placeOf(token.textAt()),
+                   isEnded
+                       ? UserWords::tr("nothing from here on is read: the \"}\" in line %1 closes no block")
+                             .arg(lastBrace.line)
+                       : UserWords::tr("nothing from here on is read: blocks nest deeper than %1")
+                             .arg(libconfig::maxDepth),
+                   isEnded ? UserWords::tr("take that brace out") : QString()});
     }
 
     BlockPath path;

@@ -5,6 +5,7 @@
 #include "placedsource.h"
 #include "starttag.h"
 #include "tokenizer.h"
+#include "usercatalogue.h"
 
 #include <QXmlStreamReader>
 
@@ -45,7 +46,7 @@ void tellMalformed(const QXmlStreamReader &reader, const QString &reason, Findin
 {
     sink.take({named("xml-malformed"),
                {reader.lineNumber(), reader.columnNumber() + 1},
-               u"nothing of this file is read: %1"_s.arg(reason),
+               UserWords::tr("nothing of this file is read: %1").arg(reason),
                {}});
 }
 
@@ -60,13 +61,15 @@ bool isReadable(const QByteArray &content, FindingSink &sink)
             sink.take(
                 {named("xml-front"),
                  {},
-                 u"nothing is found in an XML configuration that begins with a declaration or a remark"_s,
-                 u"take out what stands in front of the first element"_s});
+                 UserWords::tr(
+                     "nothing is found in an XML configuration that begins with a declaration or a remark"),
+                 UserWords::tr("take out what stands in front of the first element")});
             return false;
         }
         depth += reader.isStartElement() ? 1 : reader.isEndElement() ? -1 : 0;
         if (depth > libconfig::maxDepth) {
-            tellMalformed(reader, u"elements nest deeper than %1"_s.arg(libconfig::maxDepth), sink);
+            tellMalformed(reader, UserWords::tr("elements nest deeper than %1").arg(libconfig::maxDepth),
+                          sink);
             return false;
         }
     }
@@ -119,8 +122,9 @@ void takeElement(const QXmlStreamReader &reader, const StartTag &tag, BlockPath 
 void tellText(const QXmlStreamReader &reader, Place place, FindingSink &sink)
 {
     sink.take({named("stray-text"), place,
-               u"%1 is text between elements, which sets nothing"_s.arg(discreet(reader.text().toLatin1())),
-               u"settings are attributes"_s});
+               UserWords::tr("%1 is text between elements, which sets nothing")
+                   .arg(discreet(reader.text().toLatin1())),
+               UserWords::tr("settings are attributes")});
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "knownkeys.h"
 #include "readname.h"
 #include "tokenizer.h"
+#include "usercatalogue.h"
 #include "words.h"
 
 #include <algorithm>
@@ -73,17 +74,19 @@ bool isJson(const QByteArray &text)
 QString otherFile(const QByteArray &content, bool isXml)
 {
     if (content.size() > longestConfiguration)
-        return u"a file of more than 1 MiB"_s;
+        return UserWords::tr("a file of more than 1 MiB");
     if (content.contains('\0'))
-        return u"a binary file, or text in UTF-16"_s;
+        return UserWords::tr("a binary file, or text in UTF-16");
     if (isXml)
-        return hasCrowdedElement(content) ? u"XML with more than 1000 attributes in an element"_s : QString();
+        return hasCrowdedElement(content) ? UserWords::tr("XML with more than 1000 attributes in an element")
+                                          : QString();
     const QByteArray text = content.trimmed();
     if (isJson(text))
         return u"JSON"_s;
     if (text.isEmpty() || hasKnownBlock(content))
         return {};
-    return text.startsWith('[') ? u"an INI file"_s : u"text without a block \"palvestrin: {\""_s;
+    return text.startsWith('[') ? UserWords::tr("an INI file")
+                                : UserWords::tr("text without a block \"palvestrin: {\"");
 }
 
 } // namespace check

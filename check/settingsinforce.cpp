@@ -2,6 +2,7 @@
 
 #include "discreet.h"
 #include "settingvalue.h"
+#include "usercatalogue.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -12,9 +13,9 @@ namespace {
 void tellTwice(const QString &key, const StoredValue &lost, const StoredValue &counts, FindingSink &sink)
 {
     sink.take({named("key-twice"), lost.keyPlace,
-               u"%1 is given twice: this value %2 does not count, the one in line %3 does"_s.arg(
-                   key, discreet(key, lost.text), QString::number(counts.keyPlace.line)),
-               u"remove one of them"_s});
+               UserWords::tr("%1 is given twice: this value %2 does not count, the one in line %3 does")
+                   .arg(key, discreet(key, lost.text), QString::number(counts.keyPlace.line)),
+               UserWords::tr("remove one of them")});
 }
 
 } // namespace

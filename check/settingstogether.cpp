@@ -7,6 +7,7 @@
 #include "flagneeds.h"
 #include "settingnames.h"
 #include "settingsinforce.h"
+#include "usercatalogue.h"
 
 #include <QStringList>
 
@@ -57,12 +58,12 @@ void checkColumns(const DocumentKind &kind, const SettingsInForce &settings, Fin
     if (!value)
         return;
     sink.take({named("no-room"), value->valuePlace,
-               u"on the paper \"%1\", %2 and %3 more take %4 of %5 characters: %6"_s.arg(
-                   room->title, sumOf(*room, widths), QString::number(room->between),
-                   QString::number(room->taken), QString::number(room->paper),
-                   room->isUncut ? u"descriptions are not cut, and run over the edge"_s
-                                 : u"nothing is left for the description"_s),
-               u"make the paper wider or the columns narrower"_s});
+               UserWords::tr("on the paper \"%1\", %2 and %3 more take %4 of %5 characters: %6")
+                   .arg(inUserLanguage(room->title), sumOf(*room, widths), QString::number(room->between),
+                        QString::number(room->taken), QString::number(room->paper),
+                        room->isUncut ? UserWords::tr("descriptions are not cut, and run over the edge")
+                                      : UserWords::tr("nothing is left for the description")),
+               UserWords::tr("make the paper wider or the columns narrower")});
 }
 
 void checkFlags(const DocumentKind &kind, const SettingsInForce &settings, FindingSink &sink)
@@ -73,8 +74,8 @@ void checkFlags(const DocumentKind &kind, const SettingsInForce &settings, Findi
         if (!value || !need.isOn(value->text) || settings.textOf(path + need.needs) == vocabulary::flagOn)
             continue;
         sink.take({named("needs-flag"), value->keyPlace,
-                   u"%1 does nothing while %2 is off"_s.arg(path + need.setting, need.needs),
-                   u"set %1 to \"true\", or take this one out"_s.arg(need.needs)});
+                   UserWords::tr("%1 does nothing while %2 is off").arg(path + need.setting, need.needs),
+                   UserWords::tr("set %1 to \"true\", or take this one out").arg(need.needs)});
     }
 }
 

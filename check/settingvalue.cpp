@@ -1,6 +1,7 @@
 #include "settingvalue.h"
 
 #include "discreet.h"
+#include "usercatalogue.h"
 
 #include <algorithm>
 
@@ -45,8 +46,9 @@ bool hasEffect(const knownkeys::Key &key)
 void tellNoEffect(const knownkeys::Key &key, const StoredValue &value, FindingSink &sink)
 {
     const bool isForOthers = !knownkeys::methodsUsing(*settingOf(key)).isEmpty();
-    sink.take({named("no-effect"), value.keyPlace, u"%1 changes nothing on paper"_s.arg(key.name),
-               isForOthers ? u"none of the documents of this block asks for it"_s : key.meaning});
+    sink.take({named("no-effect"), value.keyPlace, UserWords::tr("%1 changes nothing on paper").arg(key.name),
+               isForOthers ? UserWords::tr("none of the documents of this block asks for it")
+                           : inUserLanguage(key.meaning)});
 }
 
 void tellBadValue(const knownkeys::Key &key, const StoredValue &value, const QString &objection,
@@ -54,12 +56,13 @@ void tellBadValue(const knownkeys::Key &key, const StoredValue &value, const QSt
 {
     const QString effective = knownkeys::effectiveValue(key, value.text);
     const QString shown = discreet(key.name, value.text);
-    sink.take({named("bad-value"), value.valuePlace,
-               effective == value.text
-                   ? u"%1 is no sensible value for %2"_s.arg(shown, key.name)
-                   : u"%1 counts as %2 for %3"_s.arg(shown, effective.isEmpty() ? key.whenMissing : effective,
-                                                     key.name),
-               objection});
+    sink.take(
+        {named("bad-value"), value.valuePlace,
+         effective == value.text
+             ? UserWords::tr("%1 is no sensible value for %2").arg(shown, key.name)
+             : UserWords::tr("%1 counts as %2 for %3")
+                   .arg(shown, effective.isEmpty() ? inUserLanguage(key.whenMissing) : effective, key.name),
+         objection});
 }
 
 } // namespace

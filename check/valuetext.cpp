@@ -2,6 +2,7 @@
 
 #include "discreet.h"
 #include "droppedtext.h"
+#include "usercatalogue.h"
 #include "words.h"
 
 #include <algorithm>
@@ -30,17 +31,17 @@ void checkLetters(const Token &token, const ReadItem &item, FindingSink &sink)
     if (at < 0)
         return;
     sink.take({named("not-latin-1"), placeOf(token.positionOf(at)),
-               u"the value of %1 is UTF-8, and is read as Latin-1: %2"_s.arg(
-                   quoted(item.name), discreet(item.name, token.value())),
-               u"save the file as Latin-1, or use \"palvestrin config set\""_s});
+               UserWords::tr("the value of %1 is UTF-8, and is read as Latin-1: %2")
+                   .arg(quoted(item.name), discreet(item.name, token.value())),
+               UserWords::tr("save the file as Latin-1, or use \"palvestrin config set\"")});
 }
 
 void tellMissingSemicolon(const QString &what, Place place, const ReadItem &item, FindingSink &sink)
 {
     sink.take({named("missing-semicolon"), place,
-               u"%1 is read as part of the value of %2, whose \";\" is missing"_s.arg(
-                   what, discreet(item.name.toLatin1())),
-               u"put a \";\" behind that value"_s});
+               UserWords::tr("%1 is read as part of the value of %2, whose \";\" is missing")
+                   .arg(what, discreet(item.name.toLatin1())),
+               UserWords::tr("put a \";\" behind that value")});
 }
 
 /// Lines with settings of their own that the value swallowed.
@@ -49,11 +50,11 @@ bool tellSwallowedNames(const Token &token, const ReadItem &item, FindingSink &s
     const std::vector<LostName> names = lostNames(token, TextBegins::WithValue);
     for (const LostName &name : names) {
         if (item.isRemark) {
-            sink.take(
-                {named("remark"), name.place,
-                 u"%1 is read as part of the remark in line %2, which goes on up to the next \";\""_s.arg(
-                     quoted(name.name), QString::number(item.place.line)),
-                 u"take the remark out; this form of file has no remarks"_s});
+            sink.take({named("remark"), name.place,
+                       UserWords::tr(
+                           "%1 is read as part of the remark in line %2, which goes on up to the next \";\"")
+                           .arg(quoted(name.name), QString::number(item.place.line)),
+                       UserWords::tr("take the remark out; this form of file has no remarks")});
         } else {
             tellMissingSemicolon(quoted(name.name), name.place, item, sink);
         }
@@ -89,10 +90,11 @@ bool tellCut(const Token &token, const ReadItem &item, FindingSink &sink)
     if (!losesItsEnd(token))
         return false;
     sink.take({named("cut-text"), placeOf(token.textAt()),
-               u"the value of %1 has %2 bytes and is cut to %3"_s.arg(discreet(item.name.toLatin1()))
+               UserWords::tr("the value of %1 has %2 bytes and is cut to %3")
+                   .arg(discreet(item.name.toLatin1()))
                    .arg(token.size)
                    .arg(libconfig::maxTextLength),
-               u"is a \";\" missing in it?"_s});
+               UserWords::tr("is a \";\" missing in it?")});
     return true;
 }
 
@@ -106,9 +108,9 @@ void checkQuotes(const Token &token, const ReadItem &item, FindingSink &sink)
         return;
     sink.take({named("inner-quotes"),
                placeOf(token.positionOf(value.data() - token.bytes.data() + outer + at)),
-               u"a quote inside the value of %1 vanishes: it is read as %2"_s.arg(
-                   discreet(item.name.toLatin1()), discreet(item.name, token.value())),
-               u"quotes stand around a value or nowhere"_s});
+               UserWords::tr("a quote inside the value of %1 vanishes: it is read as %2")
+                   .arg(discreet(item.name.toLatin1()), discreet(item.name, token.value())),
+               UserWords::tr("quotes stand around a value or nowhere")});
 }
 
 } // namespace

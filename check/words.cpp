@@ -1,6 +1,7 @@
 #include "words.h"
 
 #include "spelling.h"
+#include "usercatalogue.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,7 +30,7 @@ QString meantBy(const QString &slip, const QStringList &words)
 QString didYouMean(const QString &slip, const QStringList &words, const QString &otherwise)
 {
     const QString meant = meantBy(slip, words);
-    return meant.isEmpty() ? otherwise : u"did you mean \"%1\"?"_s.arg(meant);
+    return meant.isEmpty() ? otherwise : UserWords::tr("did you mean \"%1\"?").arg(meant);
 }
 
 } // namespace check

@@ -62,13 +62,13 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "palvestrin-print (= ${PROJECT_VERSION})"
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME palvestrin-desktop)
 set(CPACK_DEBIAN_DESKTOP_DESCRIPTION
 "windows and pictures of Palvestrin Print
-The window palvestrin-settings shows and changes the settings of the print
-renderer, and marks those that no program reads or that make no sense. The
-program palvestrin-draw draws the paper of a print job as PNG, PDF or SVG.
+The window palvestrin-settings shows the settings of each document beside its
+paper, which follows every change, and marks what is wrong. The program
+palvestrin-draw draws the paper of a print job as PNG, PDF or SVG.
 
 This package is for people with a screen; a till does without it.")
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS
-  "palvestrin-print (= ${PROJECT_VERSION}), palvestrin-tools (= ${PROJECT_VERSION}), fonts-dejavu-core")
+  "palvestrin-print (= ${PROJECT_VERSION}), palvestrin-tools (= ${PROJECT_VERSION}), fonts-dejavu-core, qt6-translations-l10n")
 
 set(CPACK_DEBIAN_CUPS_PACKAGE_NAME palvestrin-cups)
 set(CPACK_DEBIAN_CUPS_DESCRIPTION

@@ -1,5 +1,7 @@
 #include "registercommand.h"
 
+#include "registerwords.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -96,29 +98,33 @@ std::optional<RegisterCommand> parseSale(QStringView line, bool isTail)
     return command;
 }
 
-QString named(const QString &text, QLatin1StringView whenEmpty)
+QString named(const QString &text, const QString &whenEmpty)
 {
-    return text.isEmpty() ? QString(whenEmpty) : text;
+    return text.isEmpty() ? whenEmpty : text;
 }
 
 QString modifierMeaning(const RegisterCommand &sale)
 {
     if (std::isnan(sale.percent))
-        return u", with a modifier that is no number"_s;
-    return (sale.percent < 0 ? ", less "_L1 : ", plus "_L1) + percentText(std::abs(sale.percent));
+        return RegisterWords::tr(", with a modifier that is no number");
+    const QString percent = percentText(std::abs(sale.percent));
+    return sale.percent < 0 ? RegisterWords::tr(", less %1").arg(percent)
+                            : RegisterWords::tr(", plus %1").arg(percent);
 }
 
 QString saleMeaning(const RegisterCommand &sale)
 {
-    QString meaning = "sale: "_L1 + named(sale.quantityText, "no quantity"_L1) + " x "_L1 +
-                      named(sale.description, "an item without a name"_L1) + " at "_L1 +
-                      amountText(sale.cents);
+    QString meaning = RegisterWords::tr("sale: %1 x %2 at %3")
+                          .arg(named(sale.quantityText, RegisterWords::tr("no quantity")),
+                               named(sale.description, RegisterWords::tr("an item without a name")),
+                               amountText(sale.cents));
     if (sale.isModified)
         meaning += modifierMeaning(sale);
     if (sale.isModified || sale.quantity != 1)
         meaning += " = "_L1 + amountText(priceOf(sale));
     return meaning + ", "_L1 +
-           (sale.department.isEmpty() ? u"no department"_s : "department "_L1 + sale.department);
+           (sale.department.isEmpty() ? RegisterWords::tr("no department")
+                                      : RegisterWords::tr("department %1").arg(sale.department));
 }
 
 } // namespace
@@ -144,13 +150,18 @@ bool endsWithReturn(const RegisterCommand &command)
     return !closing || closing->endsWithReturn;
 }
 
+QString wordsOf(const ClosingCommand &closing)
+{
+    return RegisterWords::tr(closing.meaning.data());
+}
+
 QString meaningOf(const RegisterCommand &command)
 {
     const ClosingCommand *closing = closingCommand(command.kind);
     if (!closing)
         return saleMeaning(command);
     const bool isDiscount = command.kind == Kind::Discount;
-    return closing->meaning + ": "_L1 +
+    return wordsOf(*closing) + ": "_L1 +
            (isDiscount ? percentText(command.percent) : amountText(command.cents));
 }
 
@@ -162,7 +173,7 @@ double priceOf(const RegisterCommand &sale)
 QString amountText(double cents)
 {
     if (!std::isfinite(cents))
-        return u"no number"_s;
+        return RegisterWords::tr("no number");
     const double amount = cents / 100 + 0.0; // no minus in front of a zero
     const QString text = QString::number(amount, 'g', exactDigits);
     if (text.contains(u'e'))

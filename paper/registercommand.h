@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QLatin1StringView>
 #include <QString>
 #include <QStringView>
@@ -33,23 +34,23 @@ struct ClosingCommand
     QLatin1StringView prefix;
     QLatin1StringView suffix;
     RegisterCommand::Kind kind;
-    QLatin1StringView meaning;
-    bool endsWithReturn; ///< with CR LF, as a sale does; the others with LF alone
+    QLatin1StringView meaning; ///< to be translated in the context "Register"
+    bool endsWithReturn;       ///< with CR LF, as a sale does; the others with LF alone
 };
 
 inline constexpr ClosingCommand closingCommands[] = {
     {QLatin1StringView("="), QLatin1StringView("H4M"), RegisterCommand::Kind::Reduction,
-     QLatin1StringView("reduction"), true},
+     QLatin1StringView(QT_TRANSLATE_NOOP("Register", "reduction")), true},
     {QLatin1StringView("="), QLatin1StringView("* 2M"), RegisterCommand::Kind::Discount,
-     QLatin1StringView("discount"), false},
-    {QLatin1StringView(""), QLatin1StringView("H1T"), RegisterCommand::Kind::Cash, QLatin1StringView("cash"),
-     false},
+     QLatin1StringView(QT_TRANSLATE_NOOP("Register", "discount")), false},
+    {QLatin1StringView(""), QLatin1StringView("H1T"), RegisterCommand::Kind::Cash,
+     QLatin1StringView(QT_TRANSLATE_NOOP("Register", "cash")), false},
     {QLatin1StringView(""), QLatin1StringView("H3T"), RegisterCommand::Kind::CreditCard,
-     QLatin1StringView("credit card"), false},
+     QLatin1StringView(QT_TRANSLATE_NOOP("Register", "credit card")), false},
     {QLatin1StringView(""), QLatin1StringView("H2T"), RegisterCommand::Kind::Cheque,
-     QLatin1StringView("cheque"), false},
+     QLatin1StringView(QT_TRANSLATE_NOOP("Register", "cheque")), false},
     {QLatin1StringView(""), QLatin1StringView("H5T"), RegisterCommand::Kind::NotPaid,
-     QLatin1StringView("not paid"), false},
+     QLatin1StringView(QT_TRANSLATE_NOOP("Register", "not paid")), false},
 };
 
 /// The row of that kind; null for a sale.
@@ -62,6 +63,8 @@ std::optional<RegisterCommand> parseCommand(QStringView line, bool isTail = fals
 /// Whether the register wants the command's line to end in CR LF.
 bool endsWithReturn(const RegisterCommand &command);
 
+/// What the closing command is about, in words.
+QString wordsOf(const ClosingCommand &closing);
 /// What the register does at the command, in words.
 QString meaningOf(const RegisterCommand &command);
 

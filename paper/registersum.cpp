@@ -1,5 +1,7 @@
 #include "registersum.h"
 
+#include "registerwords.h"
+
 #include <QStringList>
 
 #include <cmath>
@@ -49,11 +51,8 @@ void RegisterSum::add(const RegisterCommand &command)
 
 QString RegisterSum::text() const
 {
-    QString text = "The register will show "_L1 + amountText(total()) + partsText() + u'.' + paymentText();
-    if (unread > 0)
-        text += u" Not counted: %1 that could not be read."_s.arg(unread == 1 ? u"1 command"_s
-                                                                              : u"%1 commands"_s.arg(unread));
-    return text;
+    const QString sum = RegisterWords::tr("The register will show %1").arg(amountText(total()));
+    return sum + partsText() + u'.' + paymentText() + unreadText();
 }
 
 double RegisterSum::paid() const
@@ -66,12 +65,21 @@ QString RegisterSum::partsText() const
 {
     if (reductions == 0 && discounts == 0)
         return {};
-    QString text = ": sales "_L1 + amountText(sales);
+    QString text = RegisterWords::tr(": sales %1").arg(amountText(sales));
     if (reductions != 0)
-        text += ", less reductions "_L1 + amountText(reductions);
+        text += RegisterWords::tr(", less reductions %1").arg(amountText(reductions));
     if (discounts != 0)
-        text += ", less discount "_L1 + amountText(discounts);
+        text += RegisterWords::tr(", less discount %1").arg(amountText(discounts));
     return text;
+}
+
+QString RegisterSum::unreadText() const
+{
+    if (unread == 0)
+        return {};
+    return u' ' + (unread == 1
+                       ? RegisterWords::tr("Not counted: 1 command that could not be read.")
+                       : RegisterWords::tr("Not counted: %1 commands that could not be read.").arg(unread));
 }
 
 QString RegisterSum::paymentText() const
@@ -79,16 +87,18 @@ QString RegisterSum::paymentText() const
     QStringList kinds;
     for (std::size_t i = 0; i < payments.size(); ++i) {
         if (payments.at(i) != 0)
-            kinds += closingCommands[i].meaning + u' ' + amountText(payments.at(i));
+            kinds += wordsOf(closingCommands[i]) + u' ' + amountText(payments.at(i));
     }
     if (kinds.isEmpty())
         return {};
     const double left = total() - paid();
-    const QString text = " Settled by "_L1 + kinds.join(", "_L1);
+    const QString text = u' ' + RegisterWords::tr("Settled by %1").arg(kinds.join(", "_L1));
     if (std::abs(left) < rounding)
         return text + u'.';
-    return text + ": "_L1 + amountText(std::abs(left)) + (left > 0 ? " less"_L1 : " more"_L1) +
-           " than the sum."_L1;
+    const QString amount = amountText(std::abs(left));
+    return text + ": "_L1 +
+           (left > 0 ? RegisterWords::tr("%1 less than the sum.").arg(amount)
+                     : RegisterWords::tr("%1 more than the sum.").arg(amount));
 }
 
 } // namespace paper

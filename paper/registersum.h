@@ -23,6 +23,7 @@ private:
     double paid() const;
     QString partsText() const;
     QString paymentText() const;
+    QString unreadText() const;
 
     bool isUntouched = true;
     double sales = 0; ///< all in cents

@@ -1,6 +1,7 @@
 #include "configfile.h"
 
 #include "orderedattributes.h"
+#include "usercatalogue.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -84,10 +85,12 @@ QString firstDifference(const QDomElement &one, const QDomElement &other, const 
 QString whatFits(const QString &type)
 {
     if (type == form::text)
-        return u"the text form has no room for ';' and '\"', characters outside Latin-1, and more than 2044 bytes"_s;
-    return u"the XML form has no room for pairs outside the first block, names that are no XML names, and "
-           u"'\"', "
-           "'<', '&' and line breaks in values"_s;
+        return UserWords::tr("the text form has no room for ';' and '\"', characters outside Latin-1, and "
+                             "more than 2044 bytes");
+    return UserWords::tr(
+        "the XML form has no room for pairs outside the first block, names that are no XML names, and "
+        "'\"', "
+        "'<', '&' and line breaks in values");
 }
 
 } // namespace
@@ -100,7 +103,7 @@ bool form::isXml(const QByteArray &content)
 QByteArray bytesOf(const FileName &path)
 {
     if (!path.isRegularFile()) // a pipe could be read only once, a folder not at all
-        throw CommandError(ExitCode::Unreadable, path, u"it is no regular file; give one"_s);
+        throw CommandError(ExitCode::Unreadable, path, UserWords::tr("it is no regular file; give one"));
     const int descriptor = ::open(path.system(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0)
         throw CommandError(ExitCode::Unreadable, path, qt_error_string(errno));
@@ -147,18 +150,20 @@ void ConfigFile::checkXml()
     if (first.isElement())
         return;
     if (!first.isNull()) {
-        throw CommandError(ExitCode::Unreadable, path, Position(),
-                           u"nothing is found in an XML file that begins with a declaration or a remark; "
-                           "remove what stands before the first element"_s);
+        throw CommandError(
+            ExitCode::Unreadable, path, Position(),
+            UserWords::tr("nothing is found in an XML file that begins with a declaration or a remark; "
+                          "remove what stands before the first element"));
     }
     QXmlStreamReader reader(bytes);
     reader.setNamespaceProcessing(false);
     while (!reader.atEnd())
         reader.readNext();
-    const QString reason = reader.hasError() ? withoutFullStop(reader.errorString())
-                                             : u"elements nest deeper than %1"_s.arg(libconfig::maxDepth);
+    const QString reason = reader.hasError()
+                               ? withoutFullStop(reader.errorString())
+                               : UserWords::tr("elements nest deeper than %1").arg(libconfig::maxDepth);
     throw CommandError(ExitCode::Unreadable, path, {reader.lineNumber(), reader.columnNumber() + 1},
-                       u"%1; nothing is found in XML that is not well-formed"_s.arg(reason));
+                       UserWords::tr("%1; nothing is found in XML that is not well-formed").arg(reason));
 }
 
 /// A file without any element would count as text form from then on.
@@ -216,16 +221,17 @@ QByteArray ConfigFile::written(const QString &as, bool evenIfItChanges)
     const QString changed = evenIfItChanges ? QString() : changedIn(as);
     if (!changed.isEmpty()) {
         throw CommandError(ExitCode::Refused, path,
-                           u"\"%1\" would not survive: %2"_s.arg(changed, whatFits(as)));
+                           UserWords::tr("\"%1\" would not survive: %2").arg(changed, whatFits(as)));
     }
     return inForm(as);
 }
 
-FileName ConfigFile::save(FileReplacement &replacement, bool force)
+FileName ConfigFile::save(FileReplacement &replacement, bool force, bool keepOld)
 {
-    const bool loses = !losses().empty();
-    if (loses && !force)
+    const bool isFaithful = losses().empty();
+    if (!isFaithful && !force)
         throw lossesAsError();
+    const bool loses = keepOld || !isFaithful;
     keepFirstElement();
     const QByteArray content = written(form);
     if (content == bytes)

@@ -34,6 +34,8 @@ public:
     libconfig::Config &config() { return tree; }
     const libconfig::Config &config() const { return tree; }
 
+    /// The bytes that were read, or saved last.
+    const QByteArray &content() const { return bytes; }
     /// Whether both were read from the same bytes, or from no file.
     bool isSameAs(const ConfigFile &other) const;
 
@@ -55,8 +57,9 @@ public:
     /// Writes the tree through `replacement`, which locks this file, and keeps the old file beside it: as
     /// "<name>.bak", or, when something of it is lost, as "<name>.bak.<n>" which is never overwritten;
     /// returns the latter, an empty name when there is none. Throws a CommandError; WouldLose unless `force`
-    /// when `losses()` names any.
-    FileName save(FileReplacement &replacement, bool force);
+    /// when `losses()` names any. With `keepOld` the old file is kept under a number even when nothing else
+    /// is lost, because somebody took settings out.
+    FileName save(FileReplacement &replacement, bool force, bool keepOld = false);
 
 private:
     void read();

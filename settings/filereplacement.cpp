@@ -1,6 +1,7 @@
 #include "filereplacement.h"
 
 #include "commanderror.h"
+#include "usercatalogue.h"
 
 #include <QDeadlineTimer>
 
@@ -60,7 +61,8 @@ FileName behindLinks(const FileName &path)
     if (path.exists())
         return std::filesystem::canonical(path.path(), error);
     if (std::filesystem::is_symlink(std::filesystem::symlink_status(path.path(), error)))
-        throw CommandError(ExitCode::Unreadable, path, u"the link leads to no file; mend or remove it"_s);
+        throw CommandError(ExitCode::Unreadable, path,
+                           UserWords::tr("the link leads to no file; mend or remove it"));
     return std::filesystem::absolute(path.path(), error);
 }
 
@@ -71,13 +73,13 @@ FileReplacement::FileReplacement(const FileName &of, const FileName &model)
 {
     // A device or a pipe would be a plain file from then on.
     if (of.exists() && !of.isRegularFile())
-        throw CommandError(ExitCode::WriteFailed, of, u"it is no regular file; give one"_s);
+        throw CommandError(ExitCode::WriteFailed, of, UserWords::tr("it is no regular file; give one"));
     if (path.exists() && ::access(path.system(), W_OK) != 0)
-        fail(u"the file may not be written"_s);
+        fail(UserWords::tr("the file may not be written"));
     std::error_code error;
     std::filesystem::create_directories(path.path().parent_path(), error);
     if (error)
-        fail(u"its folder cannot be made"_s);
+        fail(UserWords::tr("its folder cannot be made"));
     lock();
     try {
         takeOver(model);
@@ -100,8 +102,9 @@ void FileReplacement::lock()
     const QDeadlineTimer end(patience);
     while (!tryLock()) {
         if (end.hasExpired()) {
-            throw CommandError(ExitCode::Busy, path,
-                               u"another program is writing this file; try again when it is done"_s);
+            throw CommandError(
+                ExitCode::Busy, path,
+                UserWords::tr("another program is writing this file; try again when it is done"));
         }
         std::this_thread::sleep_for(interval);
     }
@@ -111,7 +114,7 @@ bool FileReplacement::tryLock()
 {
     file = ::open(newPath.system(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ownerOnly);
     if (file < 0)
-        fail(u"%1 cannot be opened (%2)"_s.arg(newPath.shown(), qt_error_string(errno)));
+        fail(UserWords::tr("%1 cannot be opened (%2)").arg(newPath.shown(), qt_error_string(errno)));
     const int reason = ::flock(file, LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
     // Between opening and locking, another program may have finished: then its file has moved on to be the
     // configuration itself, and this lock is worth nothing.
@@ -119,7 +122,7 @@ bool FileReplacement::tryLock()
         return true;
     ::close(file);
     if (reason != 0 && reason != EWOULDBLOCK)
-        fail(u"it cannot be locked (%1)"_s.arg(qt_error_string(reason)));
+        fail(UserWords::tr("it cannot be locked (%1)").arg(qt_error_string(reason)));
     return false;
 }
 
@@ -133,7 +136,8 @@ void FileReplacement::takeOver(const FileName &model)
         return;
     if ((old.st_uid != made.st_uid || old.st_gid != made.st_gid) &&
         ::fchown(file, old.st_uid, old.st_gid) != 0)
-        fail(u"it belongs to another user or group, and would not any more; do this as its owner"_s);
+        fail(UserWords::tr(
+            "it belongs to another user or group, and would not any more; do this as its owner"));
     if (::fchmod(file, old.st_mode & 07777) != 0)
         fail(qt_error_string(errno));
 }
@@ -162,5 +166,5 @@ void FileReplacement::commit(const QByteArray &content)
 
 void FileReplacement::fail(const QString &what) const
 {
-    throw CommandError(ExitCode::WriteFailed, path, u"%1; the file is unchanged"_s.arg(what));
+    throw CommandError(ExitCode::WriteFailed, path, UserWords::tr("%1; the file is unchanged").arg(what));
 }

@@ -2,6 +2,7 @@
 
 #include "knownkeys.h"
 #include "orderedattributes.h"
+#include "usercatalogue.h"
 
 #include <QRegularExpression>
 
@@ -115,7 +116,8 @@ QString keyObjection(const QString &key)
     static const QRegularExpression valid(u"\\A[A-Za-z_][A-Za-z0-9_-]*(\\.[A-Za-z_][A-Za-z0-9_-]*)+\\z"_s);
     if (valid.match(key).hasMatch())
         return {};
-    return u"\"%1\" is no key; a key is two or more names of letters, digits, '_' and '-', with dots between"_s
+    return UserWords::tr("\"%1\" is no key; a key is two or more names of letters, digits, '_' "
+                         "and '-', with dots between")
         .arg(key);
 }
 
@@ -124,10 +126,11 @@ QString valueObjection(const QString &value)
     const QChar *const forbidden =
         std::ranges::find_if(value, [](QChar c) { return c == u';' || c == u'"' || c.unicode() > 0xff; });
     if (forbidden != value.end())
-        return u"a value cannot hold '%1'; leave it out"_s.arg(*forbidden);
+        return UserWords::tr("a value cannot hold '%1'; leave it out").arg(*forbidden);
     if (value.size() > maxValue) {
-        return u"a value has room for %1 bytes, this one has %2; shorten it"_s.arg(maxValue).arg(
-            value.size());
+        return UserWords::tr("a value has room for %1 bytes, this one has %2; shorten it")
+            .arg(maxValue)
+            .arg(value.size());
     }
     return {};
 }

@@ -3,6 +3,7 @@
 #include "companyprinterdriver.h"
 #include "printmethods.h"
 #include "spelling.h"
+#include "usercatalogue.h"
 
 #include <algorithm>
 
@@ -122,14 +123,19 @@ QString objection(const Key &key, const QString &value)
         return {};
     case ValueKind::Count:
     case ValueKind::Width:
-        return isSensibleCount(value) ? QString()
-                                      : u"give a whole number from 0 to %1"_s.arg(largestSensibleCount);
+        return isSensibleCount(value)
+                   ? QString()
+                   : UserWords::tr("give a whole number from 0 to %1").arg(largestSensibleCount);
     case ValueKind::Flag:
-        return isOneOf(value, key.kind) ? QString() : u"give true or false, in small letters"_s;
+        return isOneOf(value, key.kind) ? QString() : UserWords::tr("give true or false, in small letters");
     case ValueKind::Level:
-        return isOneOf(value.toUpper(), key.kind) ? QString() : "give one of "_L1 + words(key.kind, u", "_s);
+        return isOneOf(value.toUpper(), key.kind)
+                   ? QString()
+                   : UserWords::tr("give one of %1").arg(words(key.kind, u", "_s));
     case ValueKind::LogType:
-        return isOneOf(value.toUpper(), key.kind) ? QString() : "give "_L1 + words(key.kind, u" or "_s);
+        return isOneOf(value.toUpper(), key.kind)
+                   ? QString()
+                   : UserWords::tr("give %1").arg(words(key.kind, u' ' + UserWords::tr("or") + u' '));
     }
     return {};
 }

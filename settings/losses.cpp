@@ -1,6 +1,7 @@
 #include "losses.h"
 
 #include "tokenizer.h"
+#include "usercatalogue.h"
 
 #include <QHash>
 #include <QXmlStreamReader>
@@ -30,7 +31,7 @@ public:
             isBraceMissing = true;
             break;
         case TokenKind::BeforeBrace:
-            lose(token, u"%1 between a block's name and its brace"_s);
+            lose(token, UserWords::tr("%1 between a block's name and its brace"));
             break;
         case TokenKind::OpenBrace:
             openBlock();
@@ -42,14 +43,14 @@ public:
             takeValue(token);
             break;
         case TokenKind::Stray:
-            lose(token, u"%1, which belongs to no setting"_s);
+            lose(token, UserWords::tr("%1, which belongs to no setting"));
             break;
         case TokenKind::CloseBrace:
             isClosing = true;
             brace = token.at;
             break;
         case TokenKind::BehindBrace:
-            lose(token, u"%1 between a closing brace and the next \";\" (is one missing?)"_s);
+            lose(token, UserWords::tr("%1 between a closing brace and the next \";\" (is one missing?)"));
             break;
         case TokenKind::Semicolon:
             endItem();
@@ -67,7 +68,7 @@ public:
     std::vector<Loss> inFileOrder()
     {
         if (isBraceMissing)
-            lose(name.at, u"block %1 without a brace"_s.arg(name.quoted));
+            lose(name.at, UserWords::tr("block %1 without a brace").arg(name.quoted));
         while (blocks.size() > 1)
             leaveBlock();
         std::ranges::stable_sort(losses, {},
@@ -108,8 +109,9 @@ private:
         name = {token.textAt(), quoted(token.bytes)};
         blocks.back().hasItems = true;
         if (token.isCut()) {
-            lose(name.at, u"the end of %1: a name has room for %2 bytes, blanks in front included"_s.arg(
-                              name.quoted, QString::number(libconfig::maxTextLength)));
+            lose(name.at,
+                 UserWords::tr("the end of %1: a name has room for %2 bytes, blanks in front included")
+                     .arg(name.quoted, QString::number(libconfig::maxTextLength)));
         }
     }
 
@@ -118,12 +120,13 @@ private:
         isBraceMissing = false;
         const int depth = int(blocks.size()) - 1;
         if (depth == libconfig::maxDepth) {
-            lose(name.at, u"blocks nested deeper than %1, and everything behind"_s.arg(depth));
+            lose(name.at, UserWords::tr("blocks nested deeper than %1, and everything behind").arg(depth));
             return;
         }
         const bool isLater = depth == 0 && blocks.back().hasChild;
         if (isLater)
-            lose(name.at, u"block %1: only the first top-level block is read and written"_s.arg(name.quoted));
+            lose(name.at, UserWords::tr("block %1: only the first top-level block is read and written")
+                              .arg(name.quoted));
         const bool isLost = isLater || blocks.back().isLost;
         blocks.emplace_back().isLost = isLost;
         blocks.back().name = name;
@@ -134,7 +137,7 @@ private:
         const Block left = std::move(blocks.back());
         blocks.pop_back();
         if (!left.hasItems)
-            lose(left.name.at, u"empty block %1"_s.arg(left.name.quoted));
+            lose(left.name.at, UserWords::tr("empty block %1").arg(left.name.quoted));
         blocks.back().hasChild |= left.hasItems;
     }
 
@@ -143,8 +146,8 @@ private:
         takeName(token);
         QHash<QString, Position> &pairs = blocks.back().pairs;
         if (const auto earlier = pairs.constFind(token.name()); earlier != pairs.cend()) {
-            lose(*earlier, u"this value of %1: line %2 gives another"_s.arg(name.quoted,
-                                                                            QString::number(name.at.line)));
+            lose(*earlier, UserWords::tr("this value of %1: line %2 gives another")
+                               .arg(name.quoted, QString::number(name.at.line)));
         }
         pairs[token.name()] = name.at;
     }
@@ -156,11 +159,11 @@ private:
         const QByteArrayView inside = isQuoted ? stripped.sliced(1, stripped.size() - 2) : stripped;
         if (inside.contains('"')) {
             lose(token.textAt(),
-                 u"the quotes inside the value of %1 (is a \";\" missing?)"_s.arg(name.quoted));
+                 UserWords::tr("the quotes inside the value of %1 (is a \";\" missing?)").arg(name.quoted));
         }
         if (token.isCut() || inside.size() > maxWrittenValue) {
-            lose(token.textAt(), u"the end of the value of %1: a value has room for %2 bytes"_s.arg(
-                                     name.quoted, QString::number(maxWrittenValue)));
+            lose(token.textAt(), UserWords::tr("the end of the value of %1: a value has room for %2 bytes")
+                                     .arg(name.quoted, QString::number(maxWrittenValue)));
         }
     }
 
@@ -175,7 +178,7 @@ private:
     void endReading()
     {
         if (blocks.size() == 1)
-            lose(brace, u"everything behind this brace, which closes no block"_s);
+            lose(brace, UserWords::tr("everything behind this brace, which closes no block"));
     }
 
     std::vector<Block> blocks{Block()}; ///< from the file down to the block being read
@@ -190,18 +193,19 @@ QString xmlLoss(const QXmlStreamReader &reader)
 {
     switch (reader.tokenType()) {
     case QXmlStreamReader::Comment:
-        return u"the remark \"%1\""_s.arg(reader.text().toString().simplified());
+        return UserWords::tr("the remark \"%1\"").arg(reader.text().toString().simplified());
     case QXmlStreamReader::Characters:
-        return reader.isWhitespace() ? QString()
-                                     : u"the text \"%1\""_s.arg(reader.text().toString().simplified());
+        return reader.isWhitespace()
+                   ? QString()
+                   : UserWords::tr("the text \"%1\"").arg(reader.text().toString().simplified());
     case QXmlStreamReader::ProcessingInstruction:
-        return u"the processing instruction \"%1\""_s.arg(reader.processingInstructionTarget());
+        return UserWords::tr("the processing instruction \"%1\"").arg(reader.processingInstructionTarget());
     case QXmlStreamReader::DTD:
-        return u"the document type"_s;
+        return UserWords::tr("the document type");
     case QXmlStreamReader::EntityReference:
-        return u"the entity \"%1\""_s.arg(reader.name());
+        return UserWords::tr("the entity \"%1\"").arg(reader.name());
     case QXmlStreamReader::StartDocument:
-        return reader.documentVersion().isEmpty() ? QString() : u"the XML declaration"_s;
+        return reader.documentVersion().isEmpty() ? QString() : UserWords::tr("the XML declaration");
     default:
         return {};
     }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr const Command *commands[] = {&configListCommand,  &configGetCommand,  &configSetCommand,
                                        &configUnsetCommand, &configShowCommand, &configConvertCommand,
-                                       &configCheckCommand, &configEditCommand};
+                                       &configCheckCommand, &configEditCommand, &configInitCommand};
 
 /// Whether this is the user's own file, and XML.
 bool hasUnreadForm(const CommandLine &line, const ConfigFile &file)

@@ -16,6 +16,7 @@ extern const Command configShowCommand;
 extern const Command configConvertCommand;
 extern const Command configCheckCommand;
 extern const Command configEditCommand;
+extern const Command configInitCommand;
 
 // What they share.
 

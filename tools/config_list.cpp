@@ -3,6 +3,9 @@
 #include "keyedit.h"
 #include "knownkeys.h"
 #include "listing.h"
+#include "usercatalogue.h"
+
+#include <QCoreApplication>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,7 +17,7 @@ constexpr Option namesOption{"names"_L1, "Print the known keys only, one a line.
 constexpr Operand operands[] = {{&nameArgument, Operand::AtMostOne}};
 constexpr Option options[] = {fileOption, jsonOption, namesOption, showSecretsOption};
 
-ExitCode run(const CommandLine &line)
+ExitCode list(const CommandLine &line)
 {
     const QString name = line.argument(0);
     if (line.has(u"names")) {
@@ -35,6 +38,19 @@ ExitCode run(const CommandLine &line)
     else
         printText(asText(keys));
     return ExitCode::Done;
+}
+
+/// In the user's language, which needs the toolkit's application object.
+ExitCode run(const CommandLine &line)
+{
+    int count = 1;
+    char name[] = "palvestrin";
+    char *words[] = {name, nullptr};
+    const QCoreApplication application(count, words);
+    QTranslator catalogue;
+    if (loadUserCatalogue(catalogue))
+        QCoreApplication::installTranslator(&catalogue);
+    return list(line);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "keyedit.h"
 #include "knownkeys.h"
 #include "secrets.h"
+#include "usercatalogue.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -51,18 +52,26 @@ QString valueLine(const ListedKey &key)
 {
     if (!key.objection.isEmpty())
         return u"%1 = %2\n    %3\n"_s.arg(key.key.simplified(), key.value, key.objection);
-    const QString state = key.value.isEmpty() ? " is not set"_L1 : " = "_L1 + key.value;
-    const bool differs = key.effective != key.value && !key.effective.isEmpty();
-    return key.key + state + (differs ? ", counts as "_L1 + key.effective : QString()) + u'\n';
+    const QString state =
+        key.value.isEmpty() ? UserWords::tr("%1 is not set").arg(key.key) : key.key + " = "_L1 + key.value;
+    if (key.effective == key.value || key.effective.isEmpty())
+        return state + u'\n';
+    return UserWords::tr("%1, counts as %2").arg(state, key.effective) + u'\n';
 }
 
-QString readersLine(const ListedKey &key)
+QString meaningText(const ListedKey &key)
+{
+    return UserWords::tr("%1; when missing: %2")
+        .arg(inUserLanguage(key.meaning), inUserLanguage(key.whenMissing));
+}
+
+QString readersText(const ListedKey &key)
 {
     if (key.readBy != "printing"_L1)
-        return "    read by: "_L1 + key.readBy + u'\n';
+        return UserWords::tr("read by: %1").arg(inUserLanguage(key.readBy));
     if (key.printMethods.isEmpty())
-        return u"    consulted by no print method\n"_s;
-    return "    consulted by: "_L1 + key.printMethods.join(", "_L1) + u'\n';
+        return UserWords::tr("consulted by no print method");
+    return UserWords::tr("consulted by: %1").arg(key.printMethods.join(", "_L1));
 }
 
 QJsonObject asObject(const ListedKey &key)
@@ -123,7 +132,7 @@ QString asText(const std::vector<ListedKey> &keys)
     for (const ListedKey &key : keys) {
         text += valueLine(key);
         if (key.objection.isEmpty())
-            text += u"    %1; when missing: %2\n"_s.arg(key.meaning, key.whenMissing) + readersLine(key);
+            text += u"    %1\n    %2\n"_s.arg(meaningText(key), readersText(key));
     }
     return text;
 }

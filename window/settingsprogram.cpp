@@ -1,12 +1,17 @@
 #include "settingsprogram.h"
 
 #include "commanderror.h"
-#include "configwindow.h"
 #include "localeencoding.h"
 #include "pvconfiguration.h"
+#include "settingswindow.h"
+#include "typeface.h"
+#include "usercatalogue.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 #include <iostream>
 
@@ -41,10 +46,38 @@ FileName chosenFile(int argc, char **argv)
     return chosen;
 }
 
+/// Puts the words of the program, and those of the toolkit's own buttons, into the user's language.
+class UserLanguage
+{
+public:
+    UserLanguage()
+    {
+        if (toolkit.load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            QApplication::installTranslator(&toolkit);
+        if (loadUserCatalogue(program))
+            QApplication::installTranslator(&program);
+    }
+
+private:
+    QTranslator toolkit;
+    QTranslator program;
+};
+
+void nameProgram()
+{
+    QApplication::setOrganizationName(u"Palvestrin"_s);
+    QApplication::setApplicationName(u"palvestrin-settings"_s);
+    QApplication::setApplicationVersion(QStringLiteral(PALVESTRIN_VERSION));
+    QApplication::setDesktopFileName(u"palvestrin-settings"_s);
+    QApplication::setWindowIcon(QIcon(u":/icons/palvestrin-settings.svg"_s));
+}
+
 ExitCode run(int argc, char **argv)
 {
     requireDisplay();
     QApplication application(argc, argv);
+    nameProgram();
+    const UserLanguage language;
     QCommandLineParser parser;
     parser.setApplicationDescription(u"The settings of Palvestrin Print, in a window."_s);
     const QCommandLineOption file(u"file"_s, u"Use this configuration instead of the user's."_s, u"FILE"_s);
@@ -52,7 +85,8 @@ ExitCode run(int argc, char **argv)
     parser.addHelpOption();
     parser.process(application);
 
-    ConfigWindow window(chosenFile(argc, argv));
+    typeface::require();
+    SettingsWindow window(chosenFile(argc, argv));
     window.show();
     QApplication::exec();
     return ExitCode::Done;

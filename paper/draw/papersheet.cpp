@@ -72,6 +72,17 @@ QPainterPath PaperSheet::outline() const
     return tornPaper(paperSize);
 }
 
+std::vector<QRectF> PaperSheet::lineBoxes() const
+{
+    std::vector<QRectF> boxes;
+    qreal top = firstRow(marks).y();
+    for (const Strip::Line &line : strip.lines) {
+        boxes.emplace_back(0, top, paperSize.width(), lineHeight(line));
+        top += lineHeight(line);
+    }
+    return boxes;
+}
+
 void PaperSheet::draw(QPainter &painter) const
 {
     painter.fillPath(outline(), colours::paper);

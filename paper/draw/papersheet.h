@@ -16,6 +16,7 @@ public:
     QSizeF size() const override { return paperSize; }
     qreal overhang() const override;
     QPainterPath outline() const override;
+    std::vector<QRectF> lineBoxes() const override;
     void draw(QPainter &painter) const override;
 
 private:

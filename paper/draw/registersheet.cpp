@@ -1,6 +1,7 @@
 #include "registersheet.h"
 
 #include "colours.h"
+#include "registerwords.h"
 #include "rowdrawing.h"
 #include "runs.h"
 
@@ -15,8 +16,6 @@ namespace {
 constexpr qreal captionHeight = 25;
 constexpr qreal gap = 3 * cellWidth; ///< between a command and its meaning
 constexpr qreal remarkGap = 1.3 * rowHeight;
-
-const QString head = u"To the cash register"_s;
 
 QString remarksOf(const Strip &strip)
 {
@@ -36,7 +35,7 @@ QPointF RegisterSheet::firstRow()
     return {margin * cellWidth, headHeight + (pitch - rowHeight) / 2};
 }
 
-RegisterSheet::RegisterSheet(const Strip &toDraw)
+RegisterSheet::RegisterSheet(const Strip &toDraw) : strip(toDraw)
 {
     for (const Strip::Line &line : toDraw.lines) {
         if (const auto *row = std::get_if<paper::Row>(&line))
@@ -74,11 +73,24 @@ QPainterPath RegisterSheet::outline() const
     return path;
 }
 
+std::vector<QRectF> RegisterSheet::lineBoxes() const
+{
+    std::vector<QRectF> boxes;
+    qreal top = firstRow().y();
+    for (const Strip::Line &line : strip.lines) {
+        const bool isCommand = std::holds_alternative<paper::Row>(line);
+        boxes.push_back(isCommand ? QRectF(0, top, cardSize.width(), rowHeight) : QRectF());
+        top += isCommand ? pitch : 0;
+    }
+    return boxes;
+}
+
 void RegisterSheet::draw(QPainter &painter) const
 {
     painter.fillPath(outline(), colours::paper);
     painter.strokePath(outline(), QPen(colours::edge, 1));
-    painter.fillPath(typeface::caption(head, captionHeight, true).translated(firstRow().x(), 1.2 * rowHeight),
+    painter.fillPath(typeface::caption(paper::RegisterWords::tr("To the cash register"), captionHeight, true)
+                         .translated(firstRow().x(), 1.2 * rowHeight),
                      colours::caption);
     qreal top = firstRow().y();
     for (const Command &command : commands) {

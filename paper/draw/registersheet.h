@@ -19,6 +19,7 @@ public:
 
     QSizeF size() const override { return cardSize; }
     QPainterPath outline() const override;
+    std::vector<QRectF> lineBoxes() const override;
     void draw(QPainter &painter) const override;
 
 private:
@@ -32,6 +33,7 @@ private:
     void drawCommand(QPainter &painter, const Command &command, qreal top) const;
     void drawRule(QPainter &painter, qreal top, qreal thickness, QColor colour) const;
 
+    const Strip &strip;
     std::vector<Command> commands;
     QPainterPath remarks;
     qreal meaningLeft = 0;

@@ -6,6 +6,7 @@
 #include <QSizeF>
 
 #include <memory>
+#include <vector>
 
 /// What a strip looks like, in the unit of the type (see typeface.h). Its upper left corner is the origin.
 class Sheet
@@ -22,6 +23,9 @@ public:
     virtual qreal overhang() const { return 0; }
     /// The shape of the paper.
     virtual QPainterPath outline() const = 0;
+    /// Where each of the strip's lines is drawn, across the paper; empty for one that has no place of its
+    /// own.
+    virtual std::vector<QRectF> lineBoxes() const = 0;
     /// Draws all of it but the shadow. The painter is as it was afterwards.
     virtual void draw(QPainter &painter) const = 0;
 };

@@ -98,6 +98,7 @@ private Q_SLOTS:
         QVERIFY2(depends.contains("libqt6widgets6"_L1), qPrintable(depends));
         QVERIFY2(depends.contains("libqt6svg6"_L1), qPrintable(depends));
         QVERIFY2(depends.contains("fonts-dejavu-core"_L1), qPrintable(depends));
+        QVERIFY2(depends.contains("qt6-translations-l10n"_L1), qPrintable(depends));
     }
 
     /// A backend that others may not run runs as root, and so may open every device.
@@ -134,6 +135,7 @@ private Q_SLOTS:
                                               u"usr/share/doc/palvestrin-print/docs/printing.md"_s,
                                               u"usr/share/doc/palvestrin-print/docs/promises.md"_s,
                                               u"usr/share/doc/palvestrin-print/docs/quickstart.md"_s,
+                                              u"usr/share/doc/palvestrin-print/docs/settings.md"_s,
                                               u"usr/share/man/man1/palvestrin-print.1.gz"_s,
                                               u"usr/share/man/man5/palvestrin.conf.5.gz"_s};
         QTest::newRow("tools") << u"palvestrin-tools"_s
@@ -149,11 +151,15 @@ private Q_SLOTS:
                                               u"usr/share/palvestrin/printjob.rng"_s,
                                               u"usr/share/zsh/vendor-completions/_palvestrin"_s};
         QTest::newRow("desktop") << u"palvestrin-desktop"_s
-                                 << QStringList{u"usr/bin/palvestrin-draw"_s,
-                                                u"usr/bin/palvestrin-settings"_s,
-                                                u"usr/share/doc/palvestrin-desktop -> palvestrin-print"_s,
-                                                u"usr/share/man/man1/palvestrin-draw.1.gz"_s,
-                                                u"usr/share/man/man1/palvestrin-settings.1.gz"_s};
+                                 << QStringList{
+                                        u"usr/bin/palvestrin-draw"_s,
+                                        u"usr/bin/palvestrin-settings"_s,
+                                        u"usr/share/applications/palvestrin-settings.desktop"_s,
+                                        u"usr/share/doc/palvestrin-desktop -> palvestrin-print"_s,
+                                        u"usr/share/icons/hicolor/scalable/apps/palvestrin-settings.svg"_s,
+                                        u"usr/share/man/man1/palvestrin-draw.1.gz"_s,
+                                        u"usr/share/man/man1/palvestrin-settings.1.gz"_s,
+                                        u"usr/share/metainfo/palvestrin-settings.metainfo.xml"_s};
         QTest::newRow("cups") << u"palvestrin-cups"_s
                               << QStringList{u"usr/lib/cups/backend/palvestrin"_s,
                                              u"usr/lib/systemd/system/cups.service.d/palvestrin.conf"_s,
@@ -186,6 +192,10 @@ private Q_SLOTS:
         for (const QString &language :
              {u"it"_s, u"it_IT"_s, u"de"_s, u"de_DE"_s, u"fr"_s, u"fr_FR"_s, u"es"_s, u"es_ES"_s})
             QVERIFY(all.contains(u"usr/share/palvestrin/translations/palvestrin_%1.qm"_s.arg(language)));
+        const QStringList tools = files(u"palvestrin-tools"_s, QRegularExpression(u"(?!)"_s));
+        for (const QString &language : {u"it"_s, u"de"_s, u"fr"_s, u"es"_s})
+            QVERIFY(
+                tools.contains(u"usr/share/palvestrin/translations/palvestrin-tools_%1.qm"_s.arg(language)));
     }
 
     void everybodyMayReadAndNobodyWrite()

@@ -33,6 +33,27 @@ private:
     }
 
 private Q_SLOTS:
+    void theMeaningsAreInTheUsersLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("meaning");
+        QTest::newRow("none") << u"tlh"_s << u"print the order's table; when missing: off"_s;
+        QTest::newRow("it") << u"it"_s << u"stampa il tavolo dell\u2019ordine; se manca: no"_s;
+        QTest::newRow("de") << u"de"_s << u"druckt den Tisch der Bestellung; wenn es fehlt: aus"_s;
+        QTest::newRow("fr") << u"fr"_s << u"imprime la table de la commande ; s\u2019il manque : non"_s;
+        QTest::newRow("es") << u"es"_s << u"imprime la mesa del pedido; si falta: no"_s;
+    }
+    void theMeaningsAreInTheUsersLanguage()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, meaning);
+        const ScratchFolder home;
+        const ProgramRun run = runProgram(
+            QStringLiteral(PALVESTRIN_PROGRAM), {u"config"_s, u"list"_s, u"palvestrin.doc.printTable"_s},
+            bareEnvironment(home.path()) << u"LC_ALL=en_US.UTF-8"_s << u"LANGUAGE="_s + language);
+        QVERIFY2(QString::fromUtf8(run.standardOutput).contains(meaning), run.standardOutput);
+    }
+
     void aNameIsABlockASettingOrABeginning_data()
     {
         QTest::addColumn<QString>("name");

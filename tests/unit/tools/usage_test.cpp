@@ -143,6 +143,7 @@ Commands:
   convert --to xml|cfg FILE  A configuration in the other form of file.
   check                      What is wrong with the file, and where.
   edit                       Change settings in a window.
+  init                       Begin with settings for a kind of house and its paper.
   help [COMMAND]             Tell about a command.
 
 "palvestrin config help COMMAND" tells more; "man palvestrin-config" tells all.

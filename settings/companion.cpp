@@ -1,6 +1,7 @@
 #include "companion.h"
 
 #include "commanderror.h"
+#include "usercatalogue.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -29,9 +30,9 @@ QString besideThis(const QString &name)
 
 [[noreturn]] void tellMissing(const Companion &companion)
 {
-    throw CommandError(
-        ExitCode::NotInstalled,
-        u"the program %1 is not installed; install the package %2"_s.arg(companion.name, companion.package));
+    throw CommandError(ExitCode::NotInstalled,
+                       UserWords::tr("the program %1 is not installed; install the package %2")
+                           .arg(companion.name, companion.package));
 }
 
 } // namespace

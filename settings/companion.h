@@ -3,7 +3,7 @@
 #include <QByteArrayList>
 #include <QString>
 
-/// A program of the house that stands in a package of its own, so that `palvestrin` needs none of its
+/// A program of the house that stands in a package of its own, so that who starts it needs none of its
 /// libraries.
 struct Companion
 {

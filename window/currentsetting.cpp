@@ -1,0 +1,44 @@
+#include "currentsetting.h"
+
+#include "fieldnames.h"
+#include "settingsmodel.h"
+#include "usercatalogue.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class CurrentSetting
+{
+    Q_DECLARE_TR_FUNCTIONS(CurrentSetting)
+};
+
+} // namespace
+
+QString explanationOf(const QString &key)
+{
+    if (key.isEmpty())
+        return CurrentSetting::tr(
+            "Choose a setting: its meaning is told here, and what it does is marked on the paper.");
+    const knownkeys::Key *known = knownkeys::find(key);
+    if (!known)
+        return CurrentSetting::tr("No program reads this key.");
+    const QString missing = CurrentSetting::tr("Default: %1").arg(defaultText(*known));
+    return u"<b>%1</b><p style='margin:4px 0'>%2</p><span>%3</span>"_s.arg(
+        humanName(key).toHtmlEscaped(), asSentence(inUserLanguage(known->meaning)).toHtmlEscaped(),
+        missing.toHtmlEscaped());
+}
+
+QByteArray withLessOf(const QString &key, const SettingsModel &model)
+{
+    const knownkeys::Key *known = knownkeys::find(key);
+    if (!known || known->printMethods.isEmpty())
+        return {};
+    const QString value = knownkeys::effectiveValue(*known, model.value(key));
+    if (known->kind == vocabulary::ValueKind::Flag)
+        return value == vocabulary::flagOn ? model.textWith(key, vocabulary::flagWords[1]) : QByteArray();
+    const int number = value.toInt();
+    return model.textWith(key, QString::number(number > 1 ? number - 1 : number + 1));
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class SettingsModel;
+
+/// What is told of the setting that has the keyboard: in words, and on the paper.
+
+/// Its name, meaning and default, as rich text; a sentence when no program reads the key, or none is current.
+QString explanationOf(const QString &key);
+
+/// The configuration in which the setting does less, so that what it does now shows as the difference on
+/// paper. Empty when it does nothing that could be shown.
+QByteArray withLessOf(const QString &key, const SettingsModel &model);

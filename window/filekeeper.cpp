@@ -1,0 +1,186 @@
+#include "filekeeper.h"
+
+#include "commanderror.h"
+#include "fieldnames.h"
+#include "mergedialog.h"
+#include "messagebar.h"
+#include "settingsmodel.h"
+#include "storage.h"
+
+#include <QMessageBox>
+
+namespace {
+
+QString messagesOf(const CommandError &error)
+{
+    QString text;
+    for (const QString &line : error.messages())
+        text += line + u'\n';
+    return text.trimmed();
+}
+
+} // namespace
+
+QString lastOf(const FileName &path)
+{
+    return FileName(path.path().filename()).shown();
+}
+
+FileKeeper::FileKeeper(SettingsModel &ofModel, MessageBar &withBar, QWidget &overWindow)
+    : model(ofModel), bar(withBar), window(overWindow)
+{
+    connect(&watcher, &QFileSystemWatcher::fileChanged, this, &FileKeeper::lookAtFile);
+    connect(&watcher, &QFileSystemWatcher::directoryChanged, this, &FileKeeper::lookAtFile);
+    watch();
+}
+
+void FileKeeper::watch()
+{
+    const QString path = QString::fromUtf8(model.path().bytes());
+    const QString folder = QString::fromUtf8(FileName(model.path().path().parent_path()).bytes());
+    for (const QString &name : {path, folder}) {
+        if (FileName(name).exists() && !watcher.files().contains(name) &&
+            !watcher.directories().contains(name))
+            watcher.addPath(name);
+    }
+}
+
+void FileKeeper::lookAtFile()
+{
+    watch(); // whoever replaces a file takes it from under the watcher
+    try {
+        if (ConfigFile(model.path()).isSameAs(model.baseline()))
+            tellObstacle();
+        else
+            bar.tell(tr("Another program has changed the file."), tr("Show what differs\u2026"),
+                     [this] { mergeWithFile(); });
+    } catch (const CommandError &error) {
+        bar.tell(messagesOf(error));
+    }
+}
+
+void FileKeeper::tellObstacle()
+{
+    const QString obstacle = writingObstacle(model.path());
+    if (obstacle.isEmpty())
+        bar.hide();
+    else
+        bar.tell(tr("%1 You can look and try here, but not save.").arg(obstacle));
+}
+
+void FileKeeper::mergeWithFile()
+{
+    try {
+        merge(std::make_unique<ConfigFile>(model.path()));
+    } catch (const CommandError &error) {
+        QMessageBox::critical(&window, tr("Not read"), messagesOf(error));
+    }
+}
+
+bool FileKeeper::merge(std::unique_ptr<ConfigFile> theirs)
+{
+    MergeDialog dialog(model, *theirs, &window);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    const TreeState tree = dialog.merged();
+    model.adopt(std::move(theirs), tree, tr("Merge with the file"));
+    tellObstacle();
+    return true;
+}
+
+void FileKeeper::reload()
+{
+    try {
+        auto theirs = std::make_unique<ConfigFile>(model.path());
+        const TreeState tree = stateOf(theirs->config());
+        model.adopt(std::move(theirs), tree, tr("Reload the file"));
+        tellObstacle();
+        Q_EMIT done(tr("The file was read again. Undo brings your changes back."));
+    } catch (const CommandError &error) {
+        QMessageBox::critical(&window, tr("Not read"), messagesOf(error));
+    }
+}
+
+/// Whether something stands in a field that was not taken: saving without it would lose it unseen.
+bool FileKeeper::refusesToSave()
+{
+    const QString key = model.firstRefusedKey();
+    if (key.isEmpty())
+        return false;
+    Q_EMIT unstorable(key);
+    QMessageBox::warning(&window, tr("Not saved"),
+                         tr("%1 cannot be stored as it stands. %2")
+                             .arg(nameWithPage(key), asSentence(model.refused(key).why)));
+    return true;
+}
+
+bool FileKeeper::agreesToLosses(const ConfigFile &current)
+{
+    QStringList lost;
+    for (const Loss &loss : current.losses())
+        lost += tr("Line %1: %2").arg(loss.at.line).arg(loss.what);
+    const TreeState tree = model.state();
+    for (qsizetype later = 1; later < tree.blocks.size(); ++later)
+        lost += tr("The block \u201c%1\u201d: only the first block on top is written.")
+                    .arg(tree.blocks[later].name);
+    if (lost.isEmpty())
+        return true;
+    QMessageBox question(QMessageBox::Warning, tr("Saving loses something"),
+                         tr("Saving loses what the details name. A backup keeps the file as it was."),
+                         QMessageBox::Save | QMessageBox::Cancel, &window);
+    question.setDefaultButton(QMessageBox::Cancel);
+    question.setDetailedText(lost.join(u'\n'));
+    return question.exec() == QMessageBox::Save;
+}
+
+bool FileKeeper::save()
+{
+    if (refusesToSave())
+        return false;
+    if (!model.isModified()) {
+        Q_EMIT done(tr("Nothing has been changed, and nothing was written."));
+        return true;
+    }
+    try {
+        auto now = std::make_unique<ConfigFile>(model.path());
+        if (!now->isSameAs(model.baseline()) && !merge(std::move(now)))
+            return false;
+        write();
+    } catch (const CommandError &error) {
+        QMessageBox::critical(&window, tr("Not saved"), messagesOf(error));
+    }
+    return !model.isModified();
+}
+
+void FileKeeper::write()
+{
+    if (!model.isModified()) // all was taken from the file
+        return;
+    FileReplacement replacement(model.path());
+    writeThrough(replacement);
+}
+
+void FileKeeper::writeThrough(FileReplacement &replacement)
+{
+    ConfigFile current(model.path()); // under the lock: nobody changes it from here on
+    if (!current.isSameAs(model.baseline())) {
+        throw CommandError(ExitCode::Busy, model.path(),
+                           tr("another program is changing the file; save again when it is done"));
+    }
+    if (!agreesToLosses(current))
+        return;
+    const FileName backup = model.save(current, replacement);
+    watch();
+    Q_EMIT done(backup.isEmpty() ? tr("Saved %1").arg(model.path().shown())
+                                 : tr("Saved. The file as it was is kept as %1").arg(backup.shown()));
+}
+
+bool FileKeeper::mayClose()
+{
+    if (!model.isModified() && model.firstRefusedKey().isEmpty())
+        return true;
+    const auto answer = QMessageBox::warning(
+        &window, tr("Unsaved changes"), tr("Save the changes to %1?").arg(lastOf(model.path())),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+}
