@@ -69,7 +69,7 @@ public:
     int takeStatus();
     bool hasProof(std::string_view id) const
     {
-        return proofs.find(" " + std::string(id)) != std::string::npos;
+        return proofs.find(std::string(1, ' ').append(id)) != std::string::npos;
     }
 
 private:
