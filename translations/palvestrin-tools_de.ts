@@ -75,12 +75,20 @@
         <translation>Wählen Sie eine Einstellung: hier steht, was sie bedeutet, und auf dem Papier ist markiert, was sie bewirkt.</translation>
     </message>
     <message>
-        <source>No program reads this key.</source>
-        <translation>Kein Programm liest diesen Schlüssel.</translation>
+        <source>No program reads this.</source>
+        <translation>Kein Programm liest das.</translation>
     </message>
     <message>
         <source>Default: %1</source>
         <translation>Standard: %1</translation>
+    </message>
+    <message>
+        <source>The settings of: %1</source>
+        <translation>Die Einstellungen von: %1</translation>
+    </message>
+    <message>
+        <source>Holds the settings of all documents and programs.</source>
+        <translation>Enthält die Einstellungen aller Dokumente und Programme.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +168,10 @@
     <message>
         <source>Save the changes to %1?</source>
         <translation>Die Änderungen an %1 speichern?</translation>
+    </message>
+    <message>
+        <source>The file is gone. Save writes it anew.</source>
+        <translation>Die Datei ist nicht mehr da. „Speichern“ schreibt sie neu.</translation>
     </message>
 </context>
 <context>

@@ -75,12 +75,20 @@
         <translation>Elija un ajuste: aquí se explica, y en el papel se marca lo que hace.</translation>
     </message>
     <message>
-        <source>No program reads this key.</source>
-        <translation>Ningún programa lee esta clave.</translation>
+        <source>No program reads this.</source>
+        <translation>Ningún programa lo lee.</translation>
     </message>
     <message>
         <source>Default: %1</source>
         <translation>Predeterminado: %1</translation>
+    </message>
+    <message>
+        <source>The settings of: %1</source>
+        <translation>Los ajustes de: %1</translation>
+    </message>
+    <message>
+        <source>Holds the settings of all documents and programs.</source>
+        <translation>Contiene los ajustes de todos los documentos y programas.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +168,10 @@
     <message>
         <source>Save the changes to %1?</source>
         <translation>¿Guardar los cambios de %1?</translation>
+    </message>
+    <message>
+        <source>The file is gone. Save writes it anew.</source>
+        <translation>El archivo ya no está. «Guardar» lo escribe de nuevo.</translation>
     </message>
 </context>
 <context>

@@ -75,12 +75,20 @@
         <translation>Choisissez un réglage : son sens est expliqué ici, et son effet est surligné sur le papier.</translation>
     </message>
     <message>
-        <source>No program reads this key.</source>
-        <translation>Aucun programme ne lit cette clé.</translation>
+        <source>No program reads this.</source>
+        <translation>Aucun programme ne lit ceci.</translation>
     </message>
     <message>
         <source>Default: %1</source>
         <translation>Par défaut : %1</translation>
+    </message>
+    <message>
+        <source>The settings of: %1</source>
+        <translation>Les réglages de : %1</translation>
+    </message>
+    <message>
+        <source>Holds the settings of all documents and programs.</source>
+        <translation>Contient les réglages de tous les documents et programmes.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +168,10 @@
     <message>
         <source>Save the changes to %1?</source>
         <translation>Enregistrer les modifications de %1 ?</translation>
+    </message>
+    <message>
+        <source>The file is gone. Save writes it anew.</source>
+        <translation>Le fichier a disparu. « Enregistrer » l’écrit à nouveau.</translation>
     </message>
 </context>
 <context>

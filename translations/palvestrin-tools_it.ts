@@ -75,12 +75,20 @@
         <translation>Scegli un’impostazione: qui è spiegata, e sulla carta è evidenziato ciò che fa.</translation>
     </message>
     <message>
-        <source>No program reads this key.</source>
-        <translation>Nessun programma legge questa chiave.</translation>
+        <source>No program reads this.</source>
+        <translation>Nessun programma legge questa voce.</translation>
     </message>
     <message>
         <source>Default: %1</source>
         <translation>Predefinito: %1</translation>
+    </message>
+    <message>
+        <source>The settings of: %1</source>
+        <translation>Le impostazioni di: %1</translation>
+    </message>
+    <message>
+        <source>Holds the settings of all documents and programs.</source>
+        <translation>Contiene le impostazioni di tutti i documenti e programmi.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +168,10 @@
     <message>
         <source>Save the changes to %1?</source>
         <translation>Salvare le modifiche a %1?</translation>
+    </message>
+    <message>
+        <source>The file is gone. Save writes it anew.</source>
+        <translation>Il file non c’è più. «Salva» lo riscrive.</translation>
     </message>
 </context>
 <context>

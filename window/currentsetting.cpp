@@ -1,6 +1,7 @@
 #include "currentsetting.h"
 
 #include "fieldnames.h"
+#include "pages.h"
 #include "settingsmodel.h"
 #include "usercatalogue.h"
 
@@ -15,6 +16,19 @@ class CurrentSetting
     Q_DECLARE_TR_FUNCTIONS(CurrentSetting)
 };
 
+/// What a block holds that programs read; "" for any other key.
+QString contentOf(const QString &key)
+{
+    const QString path = key + u'.';
+    for (const Page &page : pages()) {
+        if (page.path == path)
+            return CurrentSetting::tr("The settings of: %1").arg(page.title());
+    }
+    return pages().front().path.startsWith(path)
+               ? CurrentSetting::tr("Holds the settings of all documents and programs.")
+               : QString();
+}
+
 } // namespace
 
 QString explanationOf(const QString &key)
@@ -23,8 +37,10 @@ QString explanationOf(const QString &key)
         return CurrentSetting::tr(
             "Choose a setting: its meaning is told here, and what it does is marked on the paper.");
     const knownkeys::Key *known = knownkeys::find(key);
-    if (!known)
-        return CurrentSetting::tr("No program reads this key.");
+    if (!known) {
+        const QString content = contentOf(key);
+        return content.isEmpty() ? CurrentSetting::tr("No program reads this.") : content;
+    }
     const QString missing = CurrentSetting::tr("Default: %1").arg(defaultText(*known));
     return u"<b>%1</b><p style='margin:4px 0'>%2</p><span>%3</span>"_s.arg(
         humanName(key).toHtmlEscaped(), asSentence(inUserLanguage(known->meaning)).toHtmlEscaped(),

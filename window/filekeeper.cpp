@@ -45,9 +45,24 @@ void FileKeeper::watch()
     }
 }
 
+/// Whether the file was there, and no longer is: what the window holds is all that is left of it.
+bool FileKeeper::isGone() const
+{
+    return model.baseline().exists() && !model.path().exists();
+}
+
+QString FileKeeper::goneText() const
+{
+    return tr("The file is gone. Save writes it anew.");
+}
+
 void FileKeeper::lookAtFile()
 {
     watch(); // whoever replaces a file takes it from under the watcher
+    if (isGone()) {
+        bar.tell(goneText());
+        return;
+    }
     try {
         if (ConfigFile(model.path()).isSameAs(model.baseline()))
             tellObstacle();
@@ -70,6 +85,10 @@ void FileKeeper::tellObstacle()
 
 void FileKeeper::mergeWithFile()
 {
+    if (isGone()) {
+        lookAtFile();
+        return;
+    }
     try {
         merge(std::make_unique<ConfigFile>(model.path()));
     } catch (const CommandError &error) {
@@ -90,6 +109,10 @@ bool FileKeeper::merge(std::unique_ptr<ConfigFile> theirs)
 
 void FileKeeper::reload()
 {
+    if (isGone()) {
+        lookAtFile();
+        return;
+    }
     try {
         auto theirs = std::make_unique<ConfigFile>(model.path());
         const TreeState tree = stateOf(theirs->config());
@@ -137,11 +160,12 @@ bool FileKeeper::save()
 {
     if (refusesToSave())
         return false;
-    if (!model.isModified()) {
+    if (!model.isModified() && !isGone()) {
         Q_EMIT done(tr("Nothing has been changed, and nothing was written."));
         return true;
     }
     try {
+        bringBack();
         auto now = std::make_unique<ConfigFile>(model.path());
         if (!now->isSameAs(model.baseline()) && !merge(std::move(now)))
             return false;
@@ -149,7 +173,17 @@ bool FileKeeper::save()
     } catch (const CommandError &error) {
         QMessageBox::critical(&window, tr("Not saved"), messagesOf(error));
     }
-    return !model.isModified();
+    return !model.isModified() && !isGone();
+}
+
+/// A file that is gone is there as it was, so that what is changed is saved over it as ever.
+void FileKeeper::bringBack()
+{
+    if (!isGone())
+        return;
+    FileReplacement(model.path()).commit(model.baseline().content());
+    lookAtFile();
+    Q_EMIT done(tr("Saved %1").arg(model.path().shown()));
 }
 
 void FileKeeper::write()
@@ -177,10 +211,11 @@ void FileKeeper::writeThrough(FileReplacement &replacement)
 
 bool FileKeeper::mayClose()
 {
-    if (!model.isModified() && model.firstRefusedKey().isEmpty())
+    if (!model.isModified() && model.firstRefusedKey().isEmpty() && !isGone())
         return true;
     const auto answer = QMessageBox::warning(
-        &window, tr("Unsaved changes"), tr("Save the changes to %1?").arg(lastOf(model.path())),
+        &window, tr("Unsaved changes"),
+        isGone() ? goneText() : tr("Save the changes to %1?").arg(lastOf(model.path())),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }

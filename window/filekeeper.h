@@ -39,6 +39,9 @@ Q_SIGNALS:
 private:
     void watch();
     void lookAtFile();
+    bool isGone() const;
+    QString goneText() const;
+    void bringBack();
     void mergeWithFile();
     bool merge(std::unique_ptr<ConfigFile> theirs);
     bool refusesToSave();

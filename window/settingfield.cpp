@@ -6,6 +6,7 @@
 #include "usercatalogue.h"
 
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QToolButton>
 
@@ -39,7 +40,21 @@ SettingField::SettingField(const knownkeys::Key &key, SettingsModel &ofModel, QW
     });
     lay(newSmallLabel(key.name.section(u'.', 1)));
     focus()->setAccessibleName(humanName(key.name));
+    focus()->installEventFilter(this);
     refresh();
+}
+
+/// Undo belongs to the window, which knows all steps, and not to the text field. Only what was refused is no
+/// step, and is taken back where it was typed.
+bool SettingField::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::ShortcutOverride || !model.refused(known.name).why.isEmpty())
+        return QWidget::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (!key->matches(QKeySequence::Undo) && !key->matches(QKeySequence::Redo))
+        return QWidget::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 void SettingField::lay(QLabel *keyLabel)

@@ -25,6 +25,9 @@ public:
     QLabel *nameLabel() const { return name; }
     void refresh();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void lay(QLabel *keyLabel);
     void describe(const QString &problem);

@@ -108,6 +108,7 @@ QWidget *SettingsWindow::makeMiddle()
     stack->addWidget(everything);
     stack->addWidget(found);
     column->addWidget(stack, 1);
+    help->setObjectName(u"help"_s);
     help->setWordWrap(true);
     help->setMargin(16);
     help->setAlignment(Qt::AlignTop);

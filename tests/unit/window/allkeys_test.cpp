@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
@@ -59,6 +60,13 @@ QString answerInput(const QString &text, const std::function<void()> &ask)
     return offered;
 }
 
+/// What the window tells of the current setting.
+QString helpOf(const SettingsWindow &window)
+{
+    const auto *help = window.findChild<QLabel *>(u"help"_s);
+    return help ? help->text() : QString();
+}
+
 } // namespace
 
 class AllKeysTest : public QObject
@@ -102,6 +110,23 @@ private Q_SLOTS:
         window.settings().undoStack().undo();
         QVERIFY(rowOf(page, u"palvestrin.logger.level"_s));
         QCOMPARE(window.settings().text(), exampleConfiguration);
+    }
+
+    void aBlockTellsWhatItHolds()
+    {
+        const ScratchFolder folder;
+        SettingsWindow window(
+            folder.write(u"c.conf"_s, "palvestrin: { doc: { x = 1; }; mine: { y = 2; }; };"));
+        window.showAllKeys();
+        AllKeys &page = window.allKeys();
+        page.tree()->setCurrentItem(rowOf(page, u"palvestrin"_s));
+        QCOMPARE(helpOf(window), u"Holds the settings of all documents and programs."_s);
+        page.tree()->setCurrentItem(rowOf(page, u"palvestrin.doc"_s));
+        QCOMPARE(helpOf(window), u"The settings of: Kitchen ticket"_s);
+        page.tree()->setCurrentItem(rowOf(page, u"palvestrin.mine"_s));
+        QCOMPARE(helpOf(window), u"No program reads this."_s);
+        page.tree()->setCurrentItem(rowOf(page, u"palvestrin.doc.x"_s));
+        QCOMPARE(helpOf(window), u"No program reads this."_s);
     }
 
     void printDateYesIsRefusedAsOnTheCommandLine()

@@ -209,6 +209,40 @@ private Q_SLOTS:
         QCOMPARE(window.settings().text(), after);
     }
 
+    void undoWorksWhileAFieldHasTheKeyboard()
+    {
+        const ScratchFolder folder;
+        SettingsWindow window(folder.write(u"c.conf"_s, kitchenConfiguration));
+        showReady(window);
+        const QString width = u"palvestrin.doc.paperWidth"_s;
+        const QString database = u"palvestrin.db.dbname"_s;
+        QTest::keyClick(fieldOf(window, width)->focus(), Qt::Key_Up);
+        QCOMPARE(window.settings().value(width), u"33"_s);
+        QTest::keySequence(QApplication::focusWidget(), QKeySequence::Undo);
+        QCOMPARE(window.settings().value(width), u"32"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(window.settings().value(width), u"33"_s);
+        typeInto(fieldOf(window, database)->focus(), u"shop"_s);
+        QTest::keySequence(QApplication::focusWidget(), QKeySequence::Undo);
+        QCOMPARE(window.settings().value(database), QString());
+        QTest::keySequence(QApplication::focusWidget(), QKeySequence::Undo);
+        QCOMPARE(window.settings().value(width), u"32"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(window.settings().value(width), u"33"_s);
+    }
+
+    void undoTakesBackWhatWasTypedAndRefused()
+    {
+        const ScratchFolder folder;
+        SettingsWindow window(folder.write(u"c.conf"_s, kitchenConfiguration));
+        showReady(window);
+        auto *line = qobject_cast<QLineEdit *>(fieldOf(window, u"palvestrin.db.dbname"_s)->focus());
+        typeInto(line, u"a;"_s);
+        QTest::keySequence(line, QKeySequence::Undo);
+        QCOMPARE(line->text(), QString());
+        QCOMPARE(window.settings().firstRefusedKey(), QString());
+    }
+
     void randomEditsUndoneToTheStartGiveTheSameFile()
     {
         const ScratchFolder folder;
@@ -324,6 +358,41 @@ private Q_SLOTS:
         QVERIFY(!window.isWindowModified());
         QTest::keySequence(&window, QKeySequence::Undo);
         QCOMPARE(window.settings().value(u"palvestrin.doc.printWaiter"_s), u"false"_s);
+    }
+
+    void aFileThatIsGoneIsToldAndWrittenAnew_data()
+    {
+        QTest::addColumn<bool>("isChanged");
+        QTest::newRow("as it was") << false;
+        QTest::newRow("changed") << true;
+    }
+    void aFileThatIsGoneIsToldAndWrittenAnew()
+    {
+        QFETCH(bool, isChanged);
+        const ScratchFolder folder;
+        const QByteArray content = QByteArray(kitchenConfiguration) + "# the end\n";
+        const QString path = folder.write(u"c.conf"_s, content);
+        SettingsWindow window(path);
+        showReady(window);
+        if (isChanged)
+            window.settings().set(u"palvestrin.doc.paperWidth"_s, u"48"_s);
+        QVERIFY(QFile::remove(path));
+        QTRY_COMPARE(window.messages().text(), u"The file is gone. Save writes it anew."_s);
+        QTest::keyClick(&window, Qt::Key_F5); // there is nothing to read
+        QCOMPARE(window.settings().value(u"palvestrin.doc.printTable"_s), u"true"_s);
+        {
+            const Answer cancel(QMessageBox::Cancel);
+            QVERIFY(!window.close());
+            QCOMPARE(cancel.question(), u"The file is gone. Save writes it anew."_s);
+        }
+        const Answer save(QMessageBox::Save); // of the remark, when something is changed
+        QVERIFY(window.save());
+        QCOMPARE(folder.read(u"c.conf"_s),
+                 isChanged ? QByteArray(kitchenConfiguration).replace("32", "48") : content);
+        if (isChanged)
+            QCOMPARE(folder.read(u"c.conf.bak.1"_s), content);
+        QTRY_COMPARE(window.messages().text(), QString());
+        QVERIFY(window.close());
     }
 
     void twoWindowsOnOneFileLoseNothing()
