@@ -81,6 +81,7 @@ private:
 SettingsModel::SettingsModel(const FileName &path) : file(std::make_unique<ConfigFile>(path)), saved(state())
 {
     savedValues = valuesOf(saved);
+    values = savedValues;
     listOtherKeys();
     finding.setSingleShot(true);
     finding.setInterval(momentBeforeFinding);
@@ -147,7 +148,7 @@ QString SettingsModel::value(const QString &key) const
 
 bool SettingsModel::isChanged(const QString &key) const
 {
-    return value(key) != savedValues.value(key);
+    return values.value(key) != savedValues.value(key);
 }
 
 bool SettingsModel::isModified() const
@@ -217,15 +218,18 @@ void SettingsModel::show(const TreeState &state)
 void SettingsModel::listOtherKeys()
 {
     otherKeys.clear();
+    QSet<QString> listed;
     for (const StoredPair &pair : storedPairs(file->config())) {
-        if (!knownkeys::find(pair.key) && !otherKeys.contains(pair.key))
+        if (!knownkeys::find(pair.key) && !listed.contains(pair.key))
             otherKeys += pair.key;
+        listed += pair.key;
     }
 }
 
 void SettingsModel::tellChange()
 {
     const QStringList others = otherKeys;
+    values = valuesOf(state());
     listOtherKeys();
     if (others != otherKeys) {
         beginResetModel();
@@ -242,10 +246,7 @@ QString SettingsModel::problem(const QString &key) const
     QStringList reasons;
     if (refusals.contains(key))
         reasons += asSentence(refusals[key].why);
-    for (const KeyFinding &one : found) {
-        if (one.key == key)
-            reasons += asSentence(one.text());
-    }
+    reasons += reasonsFound.value(key);
     return reasons.join(u'\n');
 }
 
@@ -253,6 +254,9 @@ void SettingsModel::findNow()
 {
     finding.stop();
     found = findingsIn(isModified() ? text() : file->content());
+    reasonsFound.clear();
+    for (const KeyFinding &one : found)
+        reasonsFound[one.key] += asSentence(one.text());
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columns - 1));
     Q_EMIT findingsChanged();

@@ -110,9 +110,11 @@ private:
     std::unique_ptr<ConfigFile> file;
     TreeState saved;
     QHash<QString, QString> savedValues;
-    QStringList otherKeys; ///< of the file, which no program reads
+    QHash<QString, QString> values; ///< of the tree as it is now, in the same way
+    QStringList otherKeys;          ///< of the file, which no program reads
     QMap<QString, Refused> refusals;
     std::vector<KeyFinding> found;
+    QHash<QString, QStringList> reasonsFound; ///< the texts of `found`, by key
     QTimer finding;
     QUndoStack undo;
     int stepNumber = 0;
