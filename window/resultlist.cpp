@@ -20,6 +20,7 @@ public:
     void find(const QString &newText, bool changed, bool problems)
     {
         text = newText.simplified();
+        words = text.split(u' ', Qt::SkipEmptyParts);
         onlyChanged = changed;
         onlyProblems = problems;
         invalidateFilter();
@@ -44,19 +45,21 @@ public:
 protected:
     bool filterAcceptsRow(int row, const QModelIndex &) const override
     {
+        if (words.isEmpty() && !onlyChanged && !onlyProblems) // nothing is searched, and nothing is shown
+            return false;
         const QModelIndex index = sourceModel()->index(row, 0);
         if (onlyChanged && !index.data(SettingsModel::ChangedRole).toBool())
             return false;
         if (onlyProblems && index.data(SettingsModel::ProblemRole).toString().isEmpty())
             return false;
         const QString all = index.data(SettingsModel::SearchRole).toString();
-        const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
         return std::ranges::all_of(
             words, [&](const QString &word) { return all.contains(word, Qt::CaseInsensitive); });
     }
 
 private:
     QString text;
+    QStringList words;
     bool onlyChanged = false;
     bool onlyProblems = false;
 };
@@ -121,6 +124,11 @@ void ResultList::find(const QString &text, bool onlyChanged, bool onlyProblems)
         view->setCurrentIndex(filter->index(0, 0));
     refresh();
     tellCurrent(view->currentIndex());
+}
+
+void ResultList::clear()
+{
+    filter->find({}, false, false);
 }
 
 void ResultList::tellCurrent(const QModelIndex &index)

@@ -22,6 +22,8 @@ public:
     /// Shows the settings whose name, help, key or value has `text` in any case, and of these only the
     /// changed ones, or only those with a problem, where that is asked for.
     void find(const QString &text, bool onlyChanged, bool onlyProblems);
+    /// Looks for nothing any more: then a change of the model costs nothing.
+    void clear();
     int count() const;
     QTreeView *list() const { return view; }
     /// What it says when it finds nothing; "" when it finds something.

@@ -295,6 +295,7 @@ void SettingsWindow::jumpTo(const QString &key)
 void SettingsWindow::search()
 {
     if (!searchBar->isSearching()) {
+        found->clear();
         endSearch();
         return;
     }
@@ -348,10 +349,8 @@ void SettingsWindow::followFocus(const QWidget *widget)
 void SettingsWindow::showPaperOf(const QString &key)
 {
     setCurrentKey(key);
-    if (const Page *page = pageOf(key)) {
+    if (const Page *page = pageOf(key))
         list->select(page);
-        paper->showPage(*page);
-    }
 }
 
 void SettingsWindow::setCurrentKey(const QString &key)
@@ -360,6 +359,8 @@ void SettingsWindow::setCurrentKey(const QString &key)
         model.endStep();
     currentKey = key;
     help->setText(explanationOf(key));
+    if (const Page *page = pageOf(key + u'.')) // of a block, too
+        paper->showPage(*page);
     printPaper();
 }
 
