@@ -29,7 +29,10 @@ MessageBar::MessageBar(QWidget *parent) : QWidget(parent), label(new QLabel), of
     label->setWordWrap(true);
     row->addWidget(label, 1);
     row->addWidget(offerButton);
-    connect(offerButton, &QPushButton::clicked, this, [this] { offered(); });
+    connect(offerButton, &QPushButton::clicked, this, [this] {
+        const auto action = offered; // which may tell something else, and offer that
+        action();
+    });
     hide();
 }
 

@@ -85,7 +85,11 @@ public:
     void show(const QString &value) override
     {
         const QSignalBlocker quiet(box);
-        box->setValue(knownkeys::effectiveValue(key, value).toInt());
+        const bool isOneCopy = value.isEmpty() && settingName(key.name).editor == Editor::Number;
+        const int number = isOneCopy ? 1 : knownkeys::effectiveValue(key, value).toInt();
+        if (number < box->minimum() || number > box->maximum()) // what is stored is shown
+            box->setRange(std::min(box->minimum(), number), std::max(box->maximum(), number));
+        box->setValue(number);
         showUnit();
     }
 
