@@ -83,6 +83,8 @@ void collectPairs(const QDomElement &block, const QString &path, bool isFound, s
 bool setKey(libconfig::Config &config, const QString &key, const QString &value)
 {
     const Place place(config, key);
+    if (place.way.isEmpty())
+        return false;
     const QDomElement first = config.root().firstChildElement();
     if (!first.isNull() && first.tagName() != place.way.first())
         return false;
@@ -146,13 +148,20 @@ std::vector<StoredPair> storedPairs(libconfig::Config &config)
     return pairs;
 }
 
-QString pairObjection(const QString &key, bool isFound)
+QString inEnglish(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+QString pairObjection(const QString &key, bool isFound, QString (*words)(const char *text))
 {
     if (!isFound)
-        return u"never found: only the first top-level block is searched"_s;
+        return words(
+            QT_TRANSLATE_NOOP("Settings", "never found: only the first top-level block is searched"));
     if (knownkeys::find(key))
         return {};
     const QString meant = knownkeys::closest(key.simplified());
-    return meant.isEmpty() ? u"no program reads this"_s
-                           : u"no program reads this; did you mean %1?"_s.arg(meant);
+    return meant.isEmpty()
+               ? words(QT_TRANSLATE_NOOP("Settings", "no program reads this"))
+               : words(QT_TRANSLATE_NOOP("Settings", "no program reads this; did you mean %1?")).arg(meant);
 }

@@ -37,10 +37,10 @@ QString storageObjection(const QString &key, const QString &value)
 QString writingObstacle(const FileName &path)
 {
     if (path.exists() && !mayBeWritten(path.path()))
-        return UserWords::tr("You may not write this file.");
+        return UserWords::tr("You have no permission to change this file.");
     const std::filesystem::path folder = folderAbove(path.path());
     std::error_code error;
     if (!std::filesystem::is_directory(folder, error))
         return UserWords::tr("Its folder cannot be made: a file is in the way.");
-    return mayBeWritten(folder) ? QString() : UserWords::tr("You may not write in its folder.");
+    return mayBeWritten(folder) ? QString() : UserWords::tr("You have no permission to write in its folder.");
 }

@@ -45,13 +45,14 @@ ListedKey knownKey(const knownkeys::Key &key, const QString &value)
             key.whenMissing,
             key.readBy,
             key.printMethods,
+            {},
             {}};
 }
 
 QString valueLine(const ListedKey &key)
 {
     if (!key.objection.isEmpty())
-        return u"%1 = %2\n    %3\n"_s.arg(key.key.simplified(), key.value, key.objection);
+        return u"%1 = %2\n    %3\n"_s.arg(key.key.simplified(), key.value, key.objectionTold);
     const QString state =
         key.value.isEmpty() ? UserWords::tr("%1 is not set").arg(key.key) : key.key + " = "_L1 + key.value;
     if (key.effective == key.value || key.effective.isEmpty())
@@ -104,7 +105,15 @@ std::vector<ListedKey> listedKeys(libconfig::Config &config, const QString &name
         const QString objection = pairObjection(pair.key, pair.isFound);
         // A remark may stand in front of the key.
         if (!objection.isEmpty() && pair.key.contains(name, Qt::CaseInsensitive))
-            keys.push_back({pair.key, pair.value, {}, {}, {}, {}, {}, objection});
+            keys.push_back({pair.key,
+                            pair.value,
+                            {},
+                            {},
+                            {},
+                            {},
+                            {},
+                            objection,
+                            pairObjection(pair.key, pair.isFound, inUserLanguage)});
     }
     return keys;
 }

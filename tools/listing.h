@@ -19,7 +19,8 @@ struct ListedKey
     QString whenMissing;
     QString readBy;
     QStringList printMethods;
-    QString objection;     ///< why the key has no effect, "" for a known one
+    QString objection;     ///< why the key has no effect, in English; "" for a known one
+    QString objectionTold; ///< the same in the user's language
     bool isHidden = false; ///< whether the value is kept back
 };
 

@@ -71,8 +71,8 @@
 <context>
     <name>CurrentSetting</name>
     <message>
-        <source>Choose a setting: its meaning is told here, and what it does is marked on the paper.</source>
-        <translation>Wählen Sie eine Einstellung: hier steht, was sie bedeutet, und auf dem Papier ist markiert, was sie bewirkt.</translation>
+        <source>Choose a setting: its meaning is explained here, and what it does is marked on the paper.</source>
+        <translation>Wählen Sie eine Einstellung: Hier steht, was sie bedeutet, und auf dem Papier ist markiert, was sie bewirkt.</translation>
     </message>
     <message>
         <source>No program reads this.</source>
@@ -106,8 +106,8 @@
         <translation>%1 Sie können hier schauen und ausprobieren, aber nicht speichern.</translation>
     </message>
     <message>
-        <source>Not read</source>
-        <translation>Nicht gelesen</translation>
+        <source>The file cannot be read</source>
+        <translation>Die Datei lässt sich nicht lesen</translation>
     </message>
     <message>
         <source>Merge with the file</source>
@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>The file was read again. Undo brings your changes back.</source>
-        <translation>Die Datei wurde neu gelesen. Rückgängig bringt Ihre Änderungen zurück.</translation>
+        <translation>Die Datei wurde neu gelesen. „Rückgängig“ bringt Ihre Änderungen zurück.</translation>
     </message>
     <message>
         <source>Not saved</source>
@@ -135,7 +135,7 @@
     </message>
     <message>
         <source>The block “%1”: only the first block on top is written.</source>
-        <translation>Der Block „%1“: nur der erste oberste Block wird geschrieben.</translation>
+        <translation>Der Block „%1“: Nur der erste oberste Block wird geschrieben.</translation>
     </message>
     <message>
         <source>Saving loses something</source>
@@ -189,16 +189,16 @@
         <translation>%1 Zeichen je Zeile</translation>
     </message>
     <message>
-        <source>House</source>
-        <translation>Betrieb</translation>
+        <source>Kind of business</source>
+        <translation>Art des Betriebs</translation>
     </message>
     <message>
         <source>Set up your paper</source>
         <translation>Richten Sie Ihr Papier ein</translation>
     </message>
     <message>
-        <source>There are no settings yet. Choose what comes nearest: the paper at the right shows it. Everything can be changed afterwards.</source>
-        <translation>Es gibt noch keine Einstellungen. Wählen Sie, was am besten passt: das Papier rechts zeigt es. Alles lässt sich später ändern.</translation>
+        <source>There are no settings yet. Choose what comes nearest: the paper on the right shows it. Everything can be changed afterwards.</source>
+        <translation>Es gibt noch keine Einstellungen. Wählen Sie, was am besten passt: Das Papier rechts zeigt es. Alles lässt sich später ändern.</translation>
     </message>
     <message>
         <source>Use these settings</source>
@@ -216,7 +216,7 @@
         <translation>Ein Papier einrichten</translation>
     </message>
     <message>
-        <source>Choose a document at the left. Its settings are in the middle, its paper is at the right, printed by the real program. Every change shows there at once.</source>
+        <source>Choose a document on the left. Its settings are in the middle, its paper is on the right, printed by the real program. Every change shows there at once.</source>
         <translation>Wählen Sie links ein Dokument. In der Mitte stehen seine Einstellungen, rechts liegt sein Papier, gedruckt vom Druckprogramm selbst. Jede Änderung zeigt sich dort sofort.</translation>
     </message>
     <message>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Go to a field: its meaning is told below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
-        <translation>Gehen Sie in ein Feld: darunter steht seine Bedeutung, und auf dem Papier sind die Zeilen markiert, die es betrifft. Was über den Rand läuft, ist rot.</translation>
+        <translation>Gehen Sie in ein Feld: Darunter steht seine Bedeutung, und auf dem Papier sind die Zeilen markiert, die es betrifft. Was über den Rand läuft, ist rot.</translation>
     </message>
     <message>
         <source>Nothing is lost</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Nothing is written before you save. Undo takes back every step, and the file as it was stays beside the new one.</source>
-        <translation>Vor dem Speichern wird nichts geschrieben. Rückgängig nimmt jeden Schritt zurück, und die alte Datei bleibt neben der neuen liegen.</translation>
+        <translation>Vor dem Speichern wird nichts geschrieben. „Rückgängig“ nimmt jeden Schritt zurück, und die alte Datei bleibt neben der neuen liegen.</translation>
     </message>
     <message>
         <source>Shortcuts</source>
@@ -281,6 +281,10 @@
     <message>
         <source>Take all from the file</source>
         <translation>Alles aus der Datei übernehmen</translation>
+    </message>
+    <message>
+        <source>This can only be as it is in the file.</source>
+        <translation>Das kann nur so sein wie in der Datei.</translation>
     </message>
 </context>
 <context>
@@ -361,8 +365,8 @@
         <translation>Der Auftrag druckt nichts.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
+        <source>%1%</source>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Save the paper as a picture</source>
@@ -390,6 +394,14 @@
     <message>
         <source>The job takes too long to be shown.</source>
         <translation>Der Auftrag dauert zu lange, um gezeigt zu werden.</translation>
+    </message>
+    <message>
+        <source>The program that prints cannot be started: %1</source>
+        <translation>Das Programm, das druckt, lässt sich nicht starten: %1</translation>
+    </message>
+    <message>
+        <source>The program that prints has crashed.</source>
+        <translation>Das Programm, das druckt, ist abgestürzt.</translation>
     </message>
 </context>
 <context>
@@ -650,7 +662,7 @@
         <translation>Telefon</translation>
     </message>
     <message>
-        <source>License number</source>
+        <source>Licence number</source>
         <translation>USt-IdNr.</translation>
     </message>
     <message>
@@ -698,8 +710,8 @@
         <translation>Kassenlade öffnen</translation>
     </message>
     <message>
-        <source>Rows of a page</source>
-        <translation>Zeilen einer Seite</translation>
+        <source>Rows per page</source>
+        <translation>Zeilen je Seite</translation>
     </message>
     <message>
         <source>rows</source>
@@ -718,7 +730,7 @@
         <translation>Übersetzungsdatei</translation>
     </message>
     <message>
-        <source>Least level</source>
+        <source>Lowest level</source>
         <translation>Niedrigste Stufe</translation>
     </message>
     <message>
@@ -747,7 +759,7 @@
     </message>
     <message>
         <source>Logo picture</source>
-        <translation>Bild des Logos</translation>
+        <translation>Logobild</translation>
     </message>
     <message>
         <source>Columns</source>
@@ -766,16 +778,16 @@
         <translation>Ohne Wirkung</translation>
     </message>
     <message>
-        <source>You may not write this file.</source>
-        <translation>Sie dürfen diese Datei nicht schreiben.</translation>
+        <source>You have no permission to change this file.</source>
+        <translation>Sie haben keine Schreibrechte für diese Datei.</translation>
     </message>
     <message>
         <source>Its folder cannot be made: a file is in the way.</source>
-        <translation>Der Ordner lässt sich nicht anlegen: eine Datei steht im Weg.</translation>
+        <translation>Der Ordner lässt sich nicht anlegen: Eine Datei steht im Weg.</translation>
     </message>
     <message>
-        <source>You may not write in its folder.</source>
-        <translation>Sie dürfen in diesem Ordner nicht schreiben.</translation>
+        <source>You have no permission to write in its folder.</source>
+        <translation>Sie haben keine Schreibrechte für ihren Ordner.</translation>
     </message>
     <message>
         <source>Restaurant</source>
@@ -863,7 +875,7 @@
     </message>
     <message>
         <source>the block %1 is never looked into: only the first one of a file is</source>
-        <translation>in den Block %1 schaut niemand: nur in den ersten einer Datei</translation>
+        <translation>der Block %1 wird nie gelesen: Gelesen wird nur der erste einer Datei</translation>
     </message>
     <message>
         <source>move it to the front, and what is there into it</source>
@@ -875,7 +887,7 @@
     </message>
     <message>
         <source>no program looks into the block %1</source>
-        <translation>kein Programm schaut in den Block %1</translation>
+        <translation>kein Programm liest den Block %1</translation>
     </message>
     <message>
         <source>it belongs into the block &quot;%1&quot;</source>
@@ -883,7 +895,7 @@
     </message>
     <message>
         <source>the block %1 is empty, which is the same as none</source>
-        <translation>der Block %1 ist leer, was dasselbe ist wie keiner</translation>
+        <translation>der Block %1 ist leer; das ist, als gäbe es ihn nicht</translation>
     </message>
     <message>
         <source>%1 stands outside the blocks, where no program looks</source>
@@ -899,7 +911,7 @@
     </message>
     <message>
         <source>a name has no dots: put %1 into the block %2</source>
-        <translation>ein Name hat keine Punkte: setzen Sie %1 in den Block %2</translation>
+        <translation>ein Name hat keine Punkte: Setzen Sie %1 in den Block %2</translation>
     </message>
     <message>
         <source>it belongs into a block, such as %1</source>
@@ -911,7 +923,7 @@
     </message>
     <message>
         <source>%1 is given twice: this value %2 does not count, the one in line %3 does</source>
-        <translation>%1 steht zweimal da: dieser Wert %2 zählt nicht, der in Zeile %3 zählt</translation>
+        <translation>%1 steht zweimal da: Dieser Wert %2 zählt nicht, der in Zeile %3 zählt</translation>
     </message>
     <message>
         <source>remove one of them</source>
@@ -1031,7 +1043,7 @@
     </message>
     <message>
         <source>no effect: each document has its own layout</source>
-        <translation>keine Wirkung: jedes Dokument hat seine eigene Anordnung</translation>
+        <translation>keine Wirkung: Jedes Dokument hat seine eigene Anordnung</translation>
     </message>
     <message>
         <source>print the top margin</source>
@@ -1075,7 +1087,7 @@
     </message>
     <message>
         <source>print the customer block</source>
-        <translation>druckt den Block des Kunden</translation>
+        <translation>druckt den Kundenblock</translation>
     </message>
     <message>
         <source>print the customer&apos;s license number, with printCustomer</source>
@@ -1087,11 +1099,11 @@
     </message>
     <message>
         <source>print the order&apos;s credit</source>
-        <translation>druckt das Guthaben der Bestellung</translation>
+        <translation>druckt das Guthaben zur Bestellung</translation>
     </message>
     <message>
         <source>print the order&apos;s waiter</source>
-        <translation>druckt die Bedienung der Bestellung</translation>
+        <translation>druckt, wer die Bestellung aufgenommen hat</translation>
     </message>
     <message>
         <source>print the order&apos;s note</source>
@@ -1099,7 +1111,7 @@
     </message>
     <message>
         <source>open the drawer of a receipt printer, once before the first receipt</source>
-        <translation>öffnet die Lade eines Bondruckers, einmal vor dem ersten Bon</translation>
+        <translation>öffnet die Lade eines Bondruckers, einmal vor dem ersten Beleg</translation>
     </message>
     <message>
         <source>empty lines on top, with printGeometry</source>
@@ -1239,11 +1251,11 @@
     </message>
     <message>
         <source>the text form has no room for &apos;;&apos; and &apos;&quot;&apos;, characters outside Latin-1, and more than 2044 bytes</source>
-        <translation>die Textform hat keinen Platz für „;“ und „&quot;“, Zeichen außerhalb von Latin-1 und mehr als 2044 Bytes</translation>
+        <translation>die Textform kann „;“ und „&quot;“, Zeichen außerhalb von Latin-1 und mehr als 2044 Bytes nicht aufnehmen</translation>
     </message>
     <message>
         <source>the XML form has no room for pairs outside the first block, names that are no XML names, and &apos;&quot;&apos;, &apos;&lt;&apos;, &apos;&amp;&apos; and line breaks in values</source>
-        <translation>die XML-Form hat keinen Platz für Paare außerhalb des ersten Blocks, Namen, die keine XML-Namen sind, und „&quot;“, „&lt;“, „&amp;“ und Zeilenumbrüche in Werten</translation>
+        <translation>die XML-Form kann Paare außerhalb des ersten Blocks, Namen, die keine XML-Namen sind, und „&quot;“, „&lt;“, „&amp;“ und Zeilenumbrüche in Werten nicht aufnehmen</translation>
     </message>
     <message>
         <source>it is no regular file; give one</source>
@@ -1315,7 +1327,7 @@
     </message>
     <message>
         <source>the end of %1: a name has room for %2 bytes, blanks in front included</source>
-        <translation>das Ende von %1: ein Name hat Platz für %2 Bytes, Leerzeichen davor eingeschlossen</translation>
+        <translation>das Ende von %1: Ein Name hat Platz für %2 Bytes, Leerzeichen davor eingeschlossen</translation>
     </message>
     <message>
         <source>blocks nested deeper than %1, and everything behind</source>
@@ -1323,7 +1335,7 @@
     </message>
     <message>
         <source>block %1: only the first top-level block is read and written</source>
-        <translation>Block %1: nur der erste äußere Block wird gelesen und geschrieben</translation>
+        <translation>Block %1: Nur der erste äußere Block wird gelesen und geschrieben</translation>
     </message>
     <message>
         <source>empty block %1</source>
@@ -1339,7 +1351,7 @@
     </message>
     <message>
         <source>the end of the value of %1: a value has room for %2 bytes</source>
-        <translation>das Ende des Werts von %1: ein Wert hat Platz für %2 Bytes</translation>
+        <translation>das Ende des Werts von %1: Ein Wert hat Platz für %2 Bytes</translation>
     </message>
     <message>
         <source>everything behind this brace, which closes no block</source>
@@ -1391,7 +1403,7 @@
     </message>
     <message>
         <source>the block %1 has no &quot;{&quot;: everything behind its name is dropped</source>
-        <translation>der Block %1 hat kein „{“: alles hinter seinem Namen wird verworfen</translation>
+        <translation>der Block %1 hat kein „{“: Alles hinter seinem Namen wird verworfen</translation>
     </message>
     <message>
         <source>put a &quot;{&quot; behind its name and the &quot;:&quot;</source>
@@ -1411,7 +1423,7 @@
     </message>
     <message>
         <source>%1 is lost: the &quot;:&quot; of the remark in line %2 drops everything up to the next &quot;{&quot;</source>
-        <translation>%1 geht verloren: der „:“ des Kommentars in Zeile %2 verwirft alles bis zum nächsten „{“</translation>
+        <translation>%1 geht verloren: Der „:“ des Kommentars in Zeile %2 verwirft alles bis zum nächsten „{“</translation>
     </message>
     <message>
         <source>take the remark out; this form of file has no remarks</source>
@@ -1419,7 +1431,7 @@
     </message>
     <message>
         <source>%1 is lost: the block %2 in line %3 has no &quot;{&quot; of its own</source>
-        <translation>%1 geht verloren: der Block %2 in Zeile %3 hat kein eigenes „{“</translation>
+        <translation>%1 geht verloren: Der Block %2 in Zeile %3 hat kein eigenes „{“</translation>
     </message>
     <message>
         <source>put a &quot;{&quot; behind the &quot;:&quot; of that block</source>
@@ -1451,7 +1463,7 @@
     </message>
     <message>
         <source>%1 is skipped: the &quot;;&quot; behind the &quot;}&quot; in line %2 is missing</source>
-        <translation>%1 wird übersprungen: das „;“ hinter der „}“ in Zeile %2 fehlt</translation>
+        <translation>%1 wird übersprungen: Das „;“ hinter der „}“ in Zeile %2 fehlt</translation>
     </message>
     <message>
         <source>put a &quot;;&quot; behind that brace</source>
@@ -1459,7 +1471,7 @@
     </message>
     <message>
         <source>nothing from here on is read: the &quot;}&quot; in line %1 closes no block</source>
-        <translation>ab hier wird nichts gelesen: die „}“ in Zeile %1 schließt keinen Block</translation>
+        <translation>ab hier wird nichts gelesen: Die „}“ in Zeile %1 schließt keinen Block</translation>
     </message>
     <message>
         <source>nothing from here on is read: blocks nest deeper than %1</source>
@@ -1539,7 +1551,7 @@
     </message>
     <message>
         <source>a quote inside the value of %1 vanishes: it is read as %2</source>
-        <translation>ein Anführungszeichen im Wert von %1 verschwindet: gelesen wird %2</translation>
+        <translation>ein Anführungszeichen im Wert von %1 verschwindet: Gelesen wird %2</translation>
     </message>
     <message>
         <source>quotes stand around a value or nowhere</source>
@@ -1561,6 +1573,18 @@
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>never found: only the first top-level block is searched</source>
+        <translation>nie gefunden: Gesucht wird nur im ersten Block der Datei</translation>
+    </message>
+    <message>
+        <source>no program reads this</source>
+        <translation>kein Programm liest das</translation>
+    </message>
+    <message>
+        <source>no program reads this; did you mean %1?</source>
+        <translation>kein Programm liest das; meinten Sie %1?</translation>
+    </message>
 </context>
 <context>
     <name>SettingsModel</name>
@@ -1574,7 +1598,7 @@
     </message>
     <message>
         <source>It would never be found: the first block of the file is another.</source>
-        <translation>Sie würde nie gefunden: der erste Block der Datei ist ein anderer.</translation>
+        <translation>Sie würde nie gefunden: Der erste Block der Datei ist ein anderer.</translation>
     </message>
     <message>
         <source>Change %1</source>

@@ -71,7 +71,7 @@
 <context>
     <name>CurrentSetting</name>
     <message>
-        <source>Choose a setting: its meaning is told here, and what it does is marked on the paper.</source>
+        <source>Choose a setting: its meaning is explained here, and what it does is marked on the paper.</source>
         <translation>Elija un ajuste: aquí se explica, y en el papel se marca lo que hace.</translation>
     </message>
     <message>
@@ -106,8 +106,8 @@
         <translation>%1 Aquí puede mirar y probar, pero no guardar.</translation>
     </message>
     <message>
-        <source>Not read</source>
-        <translation>No leído</translation>
+        <source>The file cannot be read</source>
+        <translation>El archivo no se puede leer</translation>
     </message>
     <message>
         <source>Merge with the file</source>
@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>The file was read again. Undo brings your changes back.</source>
-        <translation>El archivo se ha leído de nuevo. Deshacer recupera sus cambios.</translation>
+        <translation>El archivo se ha leído de nuevo. «Deshacer» recupera sus cambios.</translation>
     </message>
     <message>
         <source>Not saved</source>
@@ -189,15 +189,15 @@
         <translation>%1 caracteres por línea</translation>
     </message>
     <message>
-        <source>House</source>
-        <translation>Establecimiento</translation>
+        <source>Kind of business</source>
+        <translation>Tipo de establecimiento</translation>
     </message>
     <message>
         <source>Set up your paper</source>
         <translation>Configure su papel</translation>
     </message>
     <message>
-        <source>There are no settings yet. Choose what comes nearest: the paper at the right shows it. Everything can be changed afterwards.</source>
+        <source>There are no settings yet. Choose what comes nearest: the paper on the right shows it. Everything can be changed afterwards.</source>
         <translation>Aún no hay ajustes. Elija lo que más se parezca: el papel de la derecha lo muestra. Después se puede cambiar todo.</translation>
     </message>
     <message>
@@ -216,8 +216,8 @@
         <translation>Configurar un papel</translation>
     </message>
     <message>
-        <source>Choose a document at the left. Its settings are in the middle, its paper is at the right, printed by the real program. Every change shows there at once.</source>
-        <translation>Elija un documento a la izquierda. En el centro están sus ajustes y a la derecha su papel, impreso por el propio programa de impresión. Cada cambio se ve allí al momento.</translation>
+        <source>Choose a document on the left. Its settings are in the middle, its paper is on the right, printed by the real program. Every change shows there at once.</source>
+        <translation>Elija un documento a la izquierda. En el centro están sus ajustes y a la derecha su papel, impreso por el propio programa de impresión. Cada cambio se ve allí al instante.</translation>
     </message>
     <message>
         <source>See what a setting does</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Nothing is written before you save. Undo takes back every step, and the file as it was stays beside the new one.</source>
-        <translation>No se escribe nada antes de guardar. Deshacer retrocede cada paso, y el archivo anterior queda junto al nuevo.</translation>
+        <translation>No se escribe nada antes de guardar. «Deshacer» retrocede cada paso, y el archivo anterior queda junto al nuevo.</translation>
     </message>
     <message>
         <source>Shortcuts</source>
@@ -281,6 +281,10 @@
     <message>
         <source>Take all from the file</source>
         <translation>Tomar todo del archivo</translation>
+    </message>
+    <message>
+        <source>This can only be as it is in the file.</source>
+        <translation>Esto solo puede quedar como está en el archivo.</translation>
     </message>
 </context>
 <context>
@@ -361,8 +365,8 @@
         <translation>El trabajo no imprime nada.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
+        <source>%1%</source>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Save the paper as a picture</source>
@@ -390,6 +394,14 @@
     <message>
         <source>The job takes too long to be shown.</source>
         <translation>El trabajo tarda demasiado en mostrarse.</translation>
+    </message>
+    <message>
+        <source>The program that prints cannot be started: %1</source>
+        <translation>El programa que imprime no se puede iniciar: %1</translation>
+    </message>
+    <message>
+        <source>The program that prints has crashed.</source>
+        <translation>El programa que imprime ha fallado.</translation>
     </message>
 </context>
 <context>
@@ -650,7 +662,7 @@
         <translation>Teléfono</translation>
     </message>
     <message>
-        <source>License number</source>
+        <source>Licence number</source>
         <translation>NIF-IVA</translation>
     </message>
     <message>
@@ -695,11 +707,11 @@
     </message>
     <message>
         <source>Open the cash drawer</source>
-        <translation>Abrir el cajón</translation>
+        <translation>Abrir el cajón portamonedas</translation>
     </message>
     <message>
-        <source>Rows of a page</source>
-        <translation>Líneas de una página</translation>
+        <source>Rows per page</source>
+        <translation>Líneas por página</translation>
     </message>
     <message>
         <source>rows</source>
@@ -718,7 +730,7 @@
         <translation>Archivo de traducción</translation>
     </message>
     <message>
-        <source>Least level</source>
+        <source>Lowest level</source>
         <translation>Nivel mínimo</translation>
     </message>
     <message>
@@ -727,7 +739,7 @@
     </message>
     <message>
         <source>Database name</source>
-        <translation>Nombre de la base</translation>
+        <translation>Nombre de la base de datos</translation>
     </message>
     <message>
         <source>User</source>
@@ -766,16 +778,16 @@
         <translation>Sin efecto</translation>
     </message>
     <message>
-        <source>You may not write this file.</source>
-        <translation>No puede escribir este archivo.</translation>
+        <source>You have no permission to change this file.</source>
+        <translation>No tiene permiso para modificar este archivo.</translation>
     </message>
     <message>
         <source>Its folder cannot be made: a file is in the way.</source>
         <translation>No se puede crear su carpeta: hay un archivo en su lugar.</translation>
     </message>
     <message>
-        <source>You may not write in its folder.</source>
-        <translation>No puede escribir en su carpeta.</translation>
+        <source>You have no permission to write in its folder.</source>
+        <translation>No tiene permiso para escribir en su carpeta.</translation>
     </message>
     <message>
         <source>Restaurant</source>
@@ -811,7 +823,7 @@
     </message>
     <message>
         <source>a value has room for %1 bytes, this one has %2; shorten it</source>
-        <translation>un valor tiene sitio para %1 bytes, este tiene %2; acórtelo</translation>
+        <translation>un valor admite %1 bytes como máximo; este tiene %2; acórtelo</translation>
     </message>
     <message>
         <source>give a whole number from 0 to %1</source>
@@ -863,7 +875,7 @@
     </message>
     <message>
         <source>the block %1 is never looked into: only the first one of a file is</source>
-        <translation>nadie mira en el bloque %1: solo en el primero de un archivo</translation>
+        <translation>el bloque %1 no se lee nunca: solo se lee el primero de un archivo</translation>
     </message>
     <message>
         <source>move it to the front, and what is there into it</source>
@@ -875,7 +887,7 @@
     </message>
     <message>
         <source>no program looks into the block %1</source>
-        <translation>ningún programa mira en el bloque %1</translation>
+        <translation>ningún programa lee el bloque %1</translation>
     </message>
     <message>
         <source>it belongs into the block &quot;%1&quot;</source>
@@ -887,7 +899,7 @@
     </message>
     <message>
         <source>%1 stands outside the blocks, where no program looks</source>
-        <translation>%1 está fuera de los bloques, donde ningún programa mira</translation>
+        <translation>%1 está fuera de los bloques, donde ningún programa lee</translation>
     </message>
     <message>
         <source>move it into a block of the block &quot;%1&quot;</source>
@@ -951,7 +963,7 @@
     </message>
     <message>
         <source>%1 is no sensible value for %2</source>
-        <translation>%1 no es un valor sensato para %2</translation>
+        <translation>%1 no es un valor válido para %2</translation>
     </message>
     <message>
         <source>%1 counts as %2 for %3</source>
@@ -1099,7 +1111,7 @@
     </message>
     <message>
         <source>open the drawer of a receipt printer, once before the first receipt</source>
-        <translation>abre el cajón de una impresora de tickets, una vez antes del primer ticket</translation>
+        <translation>abre el cajón de una impresora de tickets, una vez antes del primer recibo</translation>
     </message>
     <message>
         <source>empty lines on top, with printGeometry</source>
@@ -1187,7 +1199,7 @@
     </message>
     <message>
         <source>off</source>
-        <translation>no</translation>
+        <translation>desactivado</translation>
     </message>
     <message>
         <source>printing</source>
@@ -1315,7 +1327,7 @@
     </message>
     <message>
         <source>the end of %1: a name has room for %2 bytes, blanks in front included</source>
-        <translation>el final de %1: un nombre tiene sitio para %2 bytes, incluidos los espacios iniciales</translation>
+        <translation>el final de %1: un nombre admite %2 bytes como máximo, incluidos los espacios iniciales</translation>
     </message>
     <message>
         <source>blocks nested deeper than %1, and everything behind</source>
@@ -1339,7 +1351,7 @@
     </message>
     <message>
         <source>the end of the value of %1: a value has room for %2 bytes</source>
-        <translation>el final del valor de %1: un valor tiene sitio para %2 bytes</translation>
+        <translation>el final del valor de %1: un valor admite %2 bytes como máximo</translation>
     </message>
     <message>
         <source>everything behind this brace, which closes no block</source>
@@ -1560,6 +1572,18 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>never found: only the first top-level block is searched</source>
+        <translation>nunca se encuentra: solo se busca en el primer bloque del archivo</translation>
+    </message>
+    <message>
+        <source>no program reads this</source>
+        <translation>ningún programa lo lee</translation>
+    </message>
+    <message>
+        <source>no program reads this; did you mean %1?</source>
+        <translation>ningún programa lo lee; ¿quería decir %1?</translation>
     </message>
 </context>
 <context>

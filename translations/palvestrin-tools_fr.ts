@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Remove the block “%1” with everything in it? You can undo this.</source>
-        <translation>Supprimer le bloc « %1 » et tout son contenu ? Vous pourrez l’annuler.</translation>
+        <translation>Supprimer le bloc « %1 » et tout son contenu ? Vous pourrez l’annuler.</translation>
     </message>
     <message>
         <source>Remove %1</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Key:</source>
-        <translation>Clé :</translation>
+        <translation>Clé :</translation>
     </message>
     <message>
         <source>Add %1</source>
@@ -61,18 +61,18 @@
     </message>
     <message>
         <source>Name of the block:</source>
-        <translation>Nom du bloc :</translation>
+        <translation>Nom du bloc :</translation>
     </message>
     <message>
         <source>A name is made of letters, digits, “_” and “-”.</source>
-        <translation>Un nom se compose de lettres, de chiffres, de « _ » et de « - ».</translation>
+        <translation>Un nom se compose de lettres, de chiffres, de « _ » et de « - ».</translation>
     </message>
 </context>
 <context>
     <name>CurrentSetting</name>
     <message>
-        <source>Choose a setting: its meaning is told here, and what it does is marked on the paper.</source>
-        <translation>Choisissez un réglage : son sens est expliqué ici, et son effet est surligné sur le papier.</translation>
+        <source>Choose a setting: its meaning is explained here, and what it does is marked on the paper.</source>
+        <translation>Choisissez un réglage : son sens est expliqué ici, et son effet est surligné sur le papier.</translation>
     </message>
     <message>
         <source>No program reads this.</source>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>Default: %1</source>
-        <translation>Par défaut : %1</translation>
+        <translation>Par défaut : %1</translation>
     </message>
     <message>
         <source>The settings of: %1</source>
-        <translation>Les réglages de : %1</translation>
+        <translation>Les réglages de : %1</translation>
     </message>
     <message>
         <source>Holds the settings of all documents and programs.</source>
@@ -106,8 +106,8 @@
         <translation>%1 Vous pouvez regarder et essayer ici, mais pas enregistrer.</translation>
     </message>
     <message>
-        <source>Not read</source>
-        <translation>Non lu</translation>
+        <source>The file cannot be read</source>
+        <translation>Le fichier ne peut pas être lu</translation>
     </message>
     <message>
         <source>Merge with the file</source>
@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>The file was read again. Undo brings your changes back.</source>
-        <translation>Le fichier a été relu. Annuler rétablit vos modifications.</translation>
+        <translation>Le fichier a été relu. « Annuler » rétablit vos modifications.</translation>
     </message>
     <message>
         <source>Not saved</source>
@@ -131,11 +131,11 @@
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1 : %2</translation>
     </message>
     <message>
         <source>The block “%1”: only the first block on top is written.</source>
-        <translation>Le bloc « %1 » : seul le premier bloc est écrit.</translation>
+        <translation>Le bloc « %1 » : seul le premier bloc est écrit.</translation>
     </message>
     <message>
         <source>Saving loses something</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>another program is changing the file; save again when it is done</source>
-        <translation>un autre programme modifie le fichier ; enregistrez de nouveau quand il aura fini</translation>
+        <translation>un autre programme modifie le fichier ; enregistrez de nouveau quand il aura fini</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -167,11 +167,11 @@
     </message>
     <message>
         <source>Save the changes to %1?</source>
-        <translation>Enregistrer les modifications de %1 ?</translation>
+        <translation>Enregistrer les modifications de %1 ?</translation>
     </message>
     <message>
         <source>The file is gone. Save writes it anew.</source>
-        <translation>Le fichier a disparu. « Enregistrer » l’écrit à nouveau.</translation>
+        <translation>Le fichier a disparu. « Enregistrer » l’écrit à nouveau.</translation>
     </message>
 </context>
 <context>
@@ -189,16 +189,16 @@
         <translation>%1 caractères par ligne</translation>
     </message>
     <message>
-        <source>House</source>
-        <translation>Établissement</translation>
+        <source>Kind of business</source>
+        <translation>Type d’établissement</translation>
     </message>
     <message>
         <source>Set up your paper</source>
-        <translation>Configurez votre papier</translation>
+        <translation>Réglez votre papier</translation>
     </message>
     <message>
-        <source>There are no settings yet. Choose what comes nearest: the paper at the right shows it. Everything can be changed afterwards.</source>
-        <translation>Il n’y a pas encore de réglages. Choisissez ce qui s’en approche le plus : le papier à droite le montre. Tout peut être modifié ensuite.</translation>
+        <source>There are no settings yet. Choose what comes nearest: the paper on the right shows it. Everything can be changed afterwards.</source>
+        <translation>Il n’y a pas encore de réglages. Choisissez ce qui s’en approche le plus : le papier à droite le montre. Tout peut être modifié ensuite.</translation>
     </message>
     <message>
         <source>Use these settings</source>
@@ -213,10 +213,10 @@
     <name>Help</name>
     <message>
         <source>Set up a paper</source>
-        <translation>Configurer un papier</translation>
+        <translation>Réglez votre papier</translation>
     </message>
     <message>
-        <source>Choose a document at the left. Its settings are in the middle, its paper is at the right, printed by the real program. Every change shows there at once.</source>
+        <source>Choose a document on the left. Its settings are in the middle, its paper is on the right, printed by the real program. Every change shows there at once.</source>
         <translation>Choisissez un document à gauche. Ses réglages sont au milieu, son papier à droite, imprimé par le programme d’impression lui-même. Chaque modification s’y voit aussitôt.</translation>
     </message>
     <message>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Go to a field: its meaning is told below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
-        <translation>Allez dans un champ : son sens est expliqué en dessous, et les lignes qu’il concerne sont surlignées sur le papier. Ce qui dépasse du bord est en rouge.</translation>
+        <translation>Allez dans un champ : son sens est expliqué en dessous, et les lignes qu’il concerne sont surlignées sur le papier. Ce qui dépasse du bord est en rouge.</translation>
     </message>
     <message>
         <source>Nothing is lost</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Nothing is written before you save. Undo takes back every step, and the file as it was stays beside the new one.</source>
-        <translation>Rien n’est écrit avant l’enregistrement. Annuler défait chaque étape, et l’ancien fichier reste à côté du nouveau.</translation>
+        <translation>Rien n’est écrit avant l’enregistrement. « Annuler » défait chaque étape, et l’ancien fichier reste à côté du nouveau.</translation>
     </message>
     <message>
         <source>Shortcuts</source>
@@ -256,7 +256,7 @@
     </message>
     <message>
         <source>Another program has changed the file. Tick the settings that are to be as they are in the file; the others stay as they are here.</source>
-        <translation>Un autre programme a modifié le fichier. Cochez les réglages à reprendre du fichier ; les autres restent comme ici.</translation>
+        <translation>Un autre programme a modifié le fichier. Cochez les réglages à reprendre du fichier ; les autres restent comme ici.</translation>
     </message>
     <message>
         <source>Setting</source>
@@ -281,6 +281,10 @@
     <message>
         <source>Take all from the file</source>
         <translation>Tout reprendre du fichier</translation>
+    </message>
+    <message>
+        <source>This can only be as it is in the file.</source>
+        <translation>Ceci ne peut être que comme dans le fichier.</translation>
     </message>
 </context>
 <context>
@@ -330,7 +334,7 @@
     </message>
     <message>
         <source>Copy the paper as text</source>
-        <translation>Copier le papier comme texte</translation>
+        <translation>Copier le papier en texte</translation>
     </message>
     <message>
         <source>Print job</source>
@@ -342,15 +346,15 @@
     </message>
     <message>
         <source>Example: %1</source>
-        <translation>Exemple : %1</translation>
+        <translation>Exemple : %1</translation>
     </message>
     <message>
         <source>A job of your own…</source>
-        <translation>Votre propre travail…</translation>
+        <translation>Un de vos travaux d’impression…</translation>
     </message>
     <message>
         <source>A job of your own</source>
-        <translation>Votre propre travail d’impression</translation>
+        <translation>Un de vos travaux d’impression</translation>
     </message>
     <message>
         <source>Print jobs (*.xml);;All files (*)</source>
@@ -361,8 +365,8 @@
         <translation>Le travail n’imprime rien.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
+        <source>%1%</source>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Save the paper as a picture</source>
@@ -390,6 +394,14 @@
     <message>
         <source>The job takes too long to be shown.</source>
         <translation>Le travail est trop long pour être affiché.</translation>
+    </message>
+    <message>
+        <source>The program that prints cannot be started: %1</source>
+        <translation>Le programme qui imprime ne démarre pas : %1</translation>
+    </message>
+    <message>
+        <source>The program that prints has crashed.</source>
+        <translation>Le programme qui imprime a planté.</translation>
     </message>
 </context>
 <context>
@@ -419,7 +431,7 @@
     </message>
     <message>
         <source>sale: %1 x %2 at %3</source>
-        <translation>vente : %1 x %2 à %3</translation>
+        <translation>vente : %1 x %2 à %3</translation>
     </message>
     <message>
         <source>no quantity</source>
@@ -471,7 +483,7 @@
     </message>
     <message>
         <source>: sales %1</source>
-        <translation> : ventes %1</translation>
+        <translation> : ventes %1</translation>
     </message>
     <message>
         <source>, less reductions %1</source>
@@ -483,15 +495,15 @@
     </message>
     <message>
         <source>Not counted: 1 command that could not be read.</source>
-        <translation>Non comptée : 1 commande illisible.</translation>
+        <translation>Non comptée : 1 commande illisible.</translation>
     </message>
     <message>
         <source>Not counted: %1 commands that could not be read.</source>
-        <translation>Non comptées : %1 commandes illisibles.</translation>
+        <translation>Non comptées : %1 commandes illisibles.</translation>
     </message>
     <message>
         <source>Settled by %1</source>
-        <translation>Réglé par : %1</translation>
+        <translation>Réglé par : %1</translation>
     </message>
     <message>
         <source>%1 less than the sum.</source>
@@ -514,11 +526,11 @@
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1 : %2</translation>
     </message>
     <message>
         <source>No setting has “%1” in its name, its explanation or its value.</source>
-        <translation>Aucun réglage n’a « %1 » dans son nom, son explication ou sa valeur.</translation>
+        <translation>Aucun réglage n’a « %1 » dans son nom, son explication ou sa valeur.</translation>
     </message>
     <message>
         <source>Nothing has been changed.</source>
@@ -650,7 +662,7 @@
         <translation>Téléphone</translation>
     </message>
     <message>
-        <source>License number</source>
+        <source>Licence number</source>
         <translation>Numéro de TVA</translation>
     </message>
     <message>
@@ -698,8 +710,8 @@
         <translation>Ouvrir le tiroir-caisse</translation>
     </message>
     <message>
-        <source>Rows of a page</source>
-        <translation>Lignes d’une page</translation>
+        <source>Rows per page</source>
+        <translation>Lignes par page</translation>
     </message>
     <message>
         <source>rows</source>
@@ -718,7 +730,7 @@
         <translation>Fichier de traduction</translation>
     </message>
     <message>
-        <source>Least level</source>
+        <source>Lowest level</source>
         <translation>Niveau minimal</translation>
     </message>
     <message>
@@ -766,16 +778,16 @@
         <translation>Sans effet</translation>
     </message>
     <message>
-        <source>You may not write this file.</source>
-        <translation>Vous ne pouvez pas écrire ce fichier.</translation>
+        <source>You have no permission to change this file.</source>
+        <translation>Vous n’avez pas le droit de modifier ce fichier.</translation>
     </message>
     <message>
         <source>Its folder cannot be made: a file is in the way.</source>
-        <translation>Le dossier ne peut pas être créé : un fichier est à sa place.</translation>
+        <translation>Le dossier ne peut pas être créé : un fichier est à sa place.</translation>
     </message>
     <message>
-        <source>You may not write in its folder.</source>
-        <translation>Vous ne pouvez pas écrire dans son dossier.</translation>
+        <source>You have no permission to write in its folder.</source>
+        <translation>Vous n’avez pas le droit d’écrire dans son dossier.</translation>
     </message>
     <message>
         <source>Restaurant</source>
@@ -791,7 +803,7 @@
     </message>
     <message>
         <source>Short receipts with date and time; the drawer opens.</source>
-        <translation>Reçus courts avec date et heure ; le tiroir-caisse s’ouvre.</translation>
+        <translation>Reçus courts avec date et heure ; le tiroir-caisse s’ouvre.</translation>
     </message>
     <message>
         <source>Shop</source>
@@ -803,15 +815,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; is no key; a key is two or more names of letters, digits, &apos;_&apos; and &apos;-&apos;, with dots between</source>
-        <translation>« %1 » n’est pas une clé ; une clé est faite de deux noms ou plus de lettres, chiffres, « _ » et « - », séparés par des points</translation>
+        <translation>« %1 » n’est pas une clé ; une clé est faite de deux noms ou plus de lettres, chiffres, « _ » et « - », séparés par des points</translation>
     </message>
     <message>
         <source>a value cannot hold &apos;%1&apos;; leave it out</source>
-        <translation>une valeur ne peut pas contenir « %1 » ; retirez-le</translation>
+        <translation>une valeur ne peut pas contenir « %1 » ; retirez-le</translation>
     </message>
     <message>
         <source>a value has room for %1 bytes, this one has %2; shorten it</source>
-        <translation>une valeur a de la place pour %1 octets, celle-ci en a %2 ; raccourcissez-la</translation>
+        <translation>une valeur peut contenir %1 octets au plus, celle-ci en a %2 ; raccourcissez-la</translation>
     </message>
     <message>
         <source>give a whole number from 0 to %1</source>
@@ -823,7 +835,7 @@
     </message>
     <message>
         <source>give one of %1</source>
-        <translation>indiquez l’un de ceux-ci : %1</translation>
+        <translation>indiquez l’un de ceux-ci : %1</translation>
     </message>
     <message>
         <source>give %1</source>
@@ -843,27 +855,27 @@
     </message>
     <message>
         <source>%1; when missing: %2</source>
-        <translation>%1 ; s’il manque : %2</translation>
+        <translation>%1 ; s’il manque : %2</translation>
     </message>
     <message>
         <source>read by: %1</source>
-        <translation>lu par : %1</translation>
+        <translation>lu par : %1</translation>
     </message>
     <message>
         <source>consulted by no print method</source>
-        <translation>utilisé par aucune méthode d’impression</translation>
+        <translation>n’est utilisé par aucune méthode d’impression</translation>
     </message>
     <message>
         <source>consulted by: %1</source>
-        <translation>utilisé par : %1</translation>
+        <translation>utilisé par : %1</translation>
     </message>
     <message>
         <source>&quot;palvestrin config list&quot; lists the settings that programs read</source>
-        <translation>« palvestrin config list » liste les réglages que les programmes lisent</translation>
+        <translation>« palvestrin config list » liste les réglages que les programmes lisent</translation>
     </message>
     <message>
         <source>the block %1 is never looked into: only the first one of a file is</source>
-        <translation>personne ne regarde dans le bloc %1 : seulement dans le premier d’un fichier</translation>
+        <translation>le bloc %1 n’est jamais lu : seul le premier bloc d’un fichier l’est</translation>
     </message>
     <message>
         <source>move it to the front, and what is there into it</source>
@@ -875,11 +887,11 @@
     </message>
     <message>
         <source>no program looks into the block %1</source>
-        <translation>aucun programme ne regarde dans le bloc %1</translation>
+        <translation>aucun programme ne lit le bloc %1</translation>
     </message>
     <message>
         <source>it belongs into the block &quot;%1&quot;</source>
-        <translation>il va dans le bloc « %1 »</translation>
+        <translation>il va dans le bloc « %1 »</translation>
     </message>
     <message>
         <source>the block %1 is empty, which is the same as none</source>
@@ -887,11 +899,11 @@
     </message>
     <message>
         <source>%1 stands outside the blocks, where no program looks</source>
-        <translation>%1 est hors des blocs, où aucun programme ne regarde</translation>
+        <translation>%1 est hors des blocs, où aucun programme ne lit</translation>
     </message>
     <message>
         <source>move it into a block of the block &quot;%1&quot;</source>
-        <translation>mettez-le dans un bloc du bloc « %1 »</translation>
+        <translation>mettez-le dans un bloc du bloc « %1 »</translation>
     </message>
     <message>
         <source>no program reads %1</source>
@@ -899,7 +911,7 @@
     </message>
     <message>
         <source>a name has no dots: put %1 into the block %2</source>
-        <translation>un nom n’a pas de points : mettez %1 dans le bloc %2</translation>
+        <translation>un nom n’a pas de points : mettez %1 dans le bloc %2</translation>
     </message>
     <message>
         <source>it belongs into a block, such as %1</source>
@@ -907,11 +919,11 @@
     </message>
     <message>
         <source>did you mean %1?</source>
-        <translation>vouliez-vous dire %1 ?</translation>
+        <translation>vouliez-vous dire %1 ?</translation>
     </message>
     <message>
         <source>%1 is given twice: this value %2 does not count, the one in line %3 does</source>
-        <translation>%1 est donné deux fois : cette valeur %2 ne compte pas, celle de la ligne %3 compte</translation>
+        <translation>%1 est donné deux fois : cette valeur %2 ne compte pas, celle de la ligne %3 compte</translation>
     </message>
     <message>
         <source>remove one of them</source>
@@ -919,7 +931,7 @@
     </message>
     <message>
         <source>on the paper &quot;%1&quot;, %2 and %3 more take %4 of %5 characters: %6</source>
-        <translation>sur le papier « %1 », %2 et %3 de plus prennent %4 des %5 caractères : %6</translation>
+        <translation>sur le papier « %1 », %2 et %3 de plus prennent %4 des %5 caractères : %6</translation>
     </message>
     <message>
         <source>descriptions are not cut, and run over the edge</source>
@@ -939,7 +951,7 @@
     </message>
     <message>
         <source>set %1 to &quot;true&quot;, or take this one out</source>
-        <translation>mettez %1 à « true », ou retirez celui-ci</translation>
+        <translation>mettez %1 à « true », ou retirez celui-ci</translation>
     </message>
     <message>
         <source>%1 changes nothing on paper</source>
@@ -951,7 +963,7 @@
     </message>
     <message>
         <source>%1 is no sensible value for %2</source>
-        <translation>%1 n’est pas une valeur sensée pour %2</translation>
+        <translation>%1 n’est pas une valeur valable pour %2</translation>
     </message>
     <message>
         <source>%1 counts as %2 for %3</source>
@@ -1027,11 +1039,11 @@
     </message>
     <message>
         <source>rows of a page; a receipt printer fills up the last one</source>
-        <translation>lignes d’une page ; une imprimante de tickets complète la dernière</translation>
+        <translation>lignes d’une page ; une imprimante de tickets complète la dernière</translation>
     </message>
     <message>
         <source>no effect: each document has its own layout</source>
-        <translation>sans effet : chaque document a sa propre présentation</translation>
+        <translation>sans effet : chaque document a sa propre présentation</translation>
     </message>
     <message>
         <source>print the top margin</source>
@@ -1099,7 +1111,7 @@
     </message>
     <message>
         <source>open the drawer of a receipt printer, once before the first receipt</source>
-        <translation>ouvre le tiroir d’une imprimante de tickets, une fois avant le premier ticket</translation>
+        <translation>ouvre le tiroir d’une imprimante de tickets, une fois avant le premier reçu</translation>
     </message>
     <message>
         <source>empty lines on top, with printGeometry</source>
@@ -1119,11 +1131,11 @@
     </message>
     <message>
         <source>translation file, joined to basedir without a separator; &quot;/&quot; stands for /palvestrin_ and the locale&apos;s name</source>
-        <translation>fichier de traduction, joint à basedir sans séparateur ; « / » signifie /palvestrin_ et le nom de la langue</translation>
+        <translation>fichier de traduction, joint à basedir sans séparateur ; « / » signifie /palvestrin_ et le nom de la langue</translation>
     </message>
     <message>
         <source>least level written: DEBUG, INFO, WARNING, ERROR or FATAL, in any case</source>
-        <translation>niveau minimal écrit : DEBUG, INFO, WARNING, ERROR ou FATAL, en majuscules ou minuscules</translation>
+        <translation>niveau minimal écrit : DEBUG, INFO, WARNING, ERROR ou FATAL, en majuscules ou minuscules</translation>
     </message>
     <message>
         <source>directory of the log file</source>
@@ -1155,7 +1167,7 @@
     </message>
     <message>
         <source>directory of the application&apos;s programs; a &quot;/&quot; and the name follow</source>
-        <translation>dossier des programmes de l’application ; « / » et le nom suivent</translation>
+        <translation>dossier des programmes de l’application ; « / » et le nom suivent</translation>
     </message>
     <message>
         <source>picture file (PBM) that a receipt printer prints for the logo</source>
@@ -1163,7 +1175,7 @@
     </message>
     <message>
         <source>no translation: English labels</source>
-        <translation>pas de traduction : libellés anglais</translation>
+        <translation>pas de traduction : libellés anglais</translation>
     </message>
     <message>
         <source>the root directory</source>
@@ -1171,7 +1183,7 @@
     </message>
     <message>
         <source>no file can be opened: no log</source>
-        <translation>aucun fichier ne peut être ouvert : pas de journal</translation>
+        <translation>aucun fichier ne peut être ouvert : pas de journal</translation>
     </message>
     <message>
         <source>no log</source>
@@ -1183,11 +1195,11 @@
     </message>
     <message>
         <source>32, the printer&apos;s own width; the same for 0</source>
-        <translation>32, la largeur de l’imprimante ; de même pour 0</translation>
+        <translation>32, la largeur de l’imprimante ; de même pour 0</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>non</translation>
+        <translation>désactivé</translation>
     </message>
     <message>
         <source>printing</source>
@@ -1235,23 +1247,23 @@
     </message>
     <message>
         <source>the program %1 is not installed; install the package %2</source>
-        <translation>le programme %1 n’est pas installé ; installez le paquet %2</translation>
+        <translation>le programme %1 n’est pas installé ; installez le paquet %2</translation>
     </message>
     <message>
         <source>the text form has no room for &apos;;&apos; and &apos;&quot;&apos;, characters outside Latin-1, and more than 2044 bytes</source>
-        <translation>la forme texte n’a pas de place pour « ; » et « &quot; », les caractères hors de Latin-1 et plus de 2044 octets</translation>
+        <translation>la forme texte ne peut pas contenir « ; », « &quot; », de caractères hors de Latin-1 ni plus de 2044 octets</translation>
     </message>
     <message>
         <source>the XML form has no room for pairs outside the first block, names that are no XML names, and &apos;&quot;&apos;, &apos;&lt;&apos;, &apos;&amp;&apos; and line breaks in values</source>
-        <translation>la forme XML n’a pas de place pour des paires hors du premier bloc, des noms qui ne sont pas des noms XML, ni pour « &quot; », « &lt; », « &amp; » et les sauts de ligne dans les valeurs</translation>
+        <translation>la forme XML ne peut pas contenir de paires hors du premier bloc, de noms qui ne sont pas des noms XML, ni « &quot; », « &lt; », « &amp; » et les sauts de ligne dans les valeurs</translation>
     </message>
     <message>
         <source>it is no regular file; give one</source>
-        <translation>ce n’est pas un fichier ordinaire ; indiquez-en un</translation>
+        <translation>ce n’est pas un fichier ordinaire ; indiquez-en un</translation>
     </message>
     <message>
         <source>nothing is found in an XML file that begins with a declaration or a remark; remove what stands before the first element</source>
-        <translation>dans un fichier XML qui commence par une déclaration ou un commentaire, rien n’est trouvé ; retirez ce qui précède le premier élément</translation>
+        <translation>dans un fichier XML qui commence par une déclaration ou un commentaire, rien n’est trouvé ; retirez ce qui précède le premier élément</translation>
     </message>
     <message>
         <source>elements nest deeper than %1</source>
@@ -1259,15 +1271,15 @@
     </message>
     <message>
         <source>%1; nothing is found in XML that is not well-formed</source>
-        <translation>%1 ; dans un XML mal formé, rien n’est trouvé</translation>
+        <translation>%1 ; dans un XML mal formé, rien n’est trouvé</translation>
     </message>
     <message>
         <source>&quot;%1&quot; would not survive: %2</source>
-        <translation>« %1 » serait perdu : %2</translation>
+        <translation>« %1 » serait perdu : %2</translation>
     </message>
     <message>
         <source>the link leads to no file; mend or remove it</source>
-        <translation>le lien ne mène à aucun fichier ; corrigez-le ou retirez-le</translation>
+        <translation>le lien ne mène à aucun fichier ; corrigez-le ou retirez-le</translation>
     </message>
     <message>
         <source>the file may not be written</source>
@@ -1279,7 +1291,7 @@
     </message>
     <message>
         <source>another program is writing this file; try again when it is done</source>
-        <translation>un autre programme écrit ce fichier ; réessayez quand il aura fini</translation>
+        <translation>un autre programme écrit ce fichier ; réessayez quand il aura fini</translation>
     </message>
     <message>
         <source>%1 cannot be opened (%2)</source>
@@ -1291,11 +1303,11 @@
     </message>
     <message>
         <source>it belongs to another user or group, and would not any more; do this as its owner</source>
-        <translation>il appartient à un autre utilisateur ou groupe, et ce ne serait plus le cas ; faites-le en tant que propriétaire</translation>
+        <translation>il appartient à un autre utilisateur ou groupe, et ce ne serait plus le cas ; faites-le en tant que propriétaire</translation>
     </message>
     <message>
         <source>%1; the file is unchanged</source>
-        <translation>%1 ; le fichier est inchangé</translation>
+        <translation>%1 ; le fichier est inchangé</translation>
     </message>
     <message>
         <source>%1 between a block&apos;s name and its brace</source>
@@ -1307,7 +1319,7 @@
     </message>
     <message>
         <source>%1 between a closing brace and the next &quot;;&quot; (is one missing?)</source>
-        <translation>%1 entre une accolade fermante et le « ; » suivant (en manque-t-il un ?)</translation>
+        <translation>%1 entre une accolade fermante et le « ; » suivant (en manque-t-il un ?)</translation>
     </message>
     <message>
         <source>block %1 without a brace</source>
@@ -1315,7 +1327,7 @@
     </message>
     <message>
         <source>the end of %1: a name has room for %2 bytes, blanks in front included</source>
-        <translation>la fin de %1 : un nom a de la place pour %2 octets, espaces de tête compris</translation>
+        <translation>la fin de %1 : un nom peut contenir %2 octets au plus, espaces de tête compris</translation>
     </message>
     <message>
         <source>blocks nested deeper than %1, and everything behind</source>
@@ -1323,7 +1335,7 @@
     </message>
     <message>
         <source>block %1: only the first top-level block is read and written</source>
-        <translation>le bloc %1 : seul le premier bloc extérieur est lu et écrit</translation>
+        <translation>le bloc %1 : seul le premier bloc extérieur est lu et écrit</translation>
     </message>
     <message>
         <source>empty block %1</source>
@@ -1331,15 +1343,15 @@
     </message>
     <message>
         <source>this value of %1: line %2 gives another</source>
-        <translation>cette valeur de %1 : la ligne %2 en donne une autre</translation>
+        <translation>cette valeur de %1 : la ligne %2 en donne une autre</translation>
     </message>
     <message>
         <source>the quotes inside the value of %1 (is a &quot;;&quot; missing?)</source>
-        <translation>les guillemets dans la valeur de %1 (manque-t-il un « ; » ?)</translation>
+        <translation>les guillemets dans la valeur de %1 (manque-t-il un « ; » ?)</translation>
     </message>
     <message>
         <source>the end of the value of %1: a value has room for %2 bytes</source>
-        <translation>la fin de la valeur de %1 : une valeur a de la place pour %2 octets</translation>
+        <translation>la fin de la valeur de %1 : une valeur peut contenir %2 octets au plus</translation>
     </message>
     <message>
         <source>everything behind this brace, which closes no block</source>
@@ -1347,15 +1359,15 @@
     </message>
     <message>
         <source>the remark &quot;%1&quot;</source>
-        <translation>le commentaire « %1 »</translation>
+        <translation>le commentaire « %1 »</translation>
     </message>
     <message>
         <source>the text &quot;%1&quot;</source>
-        <translation>le texte « %1 »</translation>
+        <translation>le texte « %1 »</translation>
     </message>
     <message>
         <source>the processing instruction &quot;%1&quot;</source>
-        <translation>l’instruction de traitement « %1 »</translation>
+        <translation>l’instruction de traitement « %1 »</translation>
     </message>
     <message>
         <source>the document type</source>
@@ -1363,7 +1375,7 @@
     </message>
     <message>
         <source>the entity &quot;%1&quot;</source>
-        <translation>l’entité « %1 »</translation>
+        <translation>l’entité « %1 »</translation>
     </message>
     <message>
         <source>the XML declaration</source>
@@ -1375,7 +1387,7 @@
     </message>
     <message>
         <source>&quot;palvestrin config set&quot; begins a new file</source>
-        <translation>« palvestrin config set » commence un nouveau fichier</translation>
+        <translation>« palvestrin config set » commence un nouveau fichier</translation>
     </message>
     <message>
         <source>XML, and the programs read this file as text</source>
@@ -1383,19 +1395,19 @@
     </message>
     <message>
         <source>&quot;palvestrin config convert&quot; makes it text</source>
-        <translation>« palvestrin config convert » en fait du texte</translation>
+        <translation>« palvestrin config convert » en fait du texte</translation>
     </message>
     <message>
         <source>belongs to no setting and is dropped</source>
-        <translation>n’appartient à aucun réglage et est éliminé</translation>
+        <translation>n’appartient à aucun réglage et est ignoré</translation>
     </message>
     <message>
         <source>the block %1 has no &quot;{&quot;: everything behind its name is dropped</source>
-        <translation>le bloc %1 n’a pas de « { » : tout ce qui suit son nom est éliminé</translation>
+        <translation>le bloc %1 n’a pas de « { » : tout ce qui suit son nom est ignoré</translation>
     </message>
     <message>
         <source>put a &quot;{&quot; behind its name and the &quot;:&quot;</source>
-        <translation>mettez un « { » après son nom et le « : »</translation>
+        <translation>mettez un « { » après son nom et le « : »</translation>
     </message>
     <message>
         <source>the block %1 is never closed</source>
@@ -1403,27 +1415,27 @@
     </message>
     <message>
         <source>put &quot;};&quot; where it ends</source>
-        <translation>mettez « }; » là où il se termine</translation>
+        <translation>mettez « }; » là où il se termine</translation>
     </message>
     <message>
         <source>stands between a block&apos;s name and its &quot;{&quot; and is dropped</source>
-        <translation>se trouve entre le nom d’un bloc et son « { » et est éliminé</translation>
+        <translation>se trouve entre le nom d’un bloc et son « { » et est ignoré</translation>
     </message>
     <message>
         <source>%1 is lost: the &quot;:&quot; of the remark in line %2 drops everything up to the next &quot;{&quot;</source>
-        <translation>%1 est perdu : le « : » du commentaire de la ligne %2 élimine tout jusqu’au « { » suivant</translation>
+        <translation>%1 est perdu : le « : » du commentaire de la ligne %2 élimine tout jusqu’au « { » suivant</translation>
     </message>
     <message>
         <source>take the remark out; this form of file has no remarks</source>
-        <translation>retirez le commentaire ; ce type de fichier n’en a pas</translation>
+        <translation>retirez le commentaire ; ce type de fichier n’en a pas</translation>
     </message>
     <message>
         <source>%1 is lost: the block %2 in line %3 has no &quot;{&quot; of its own</source>
-        <translation>%1 est perdu : le bloc %2 de la ligne %3 n’a pas son propre « { »</translation>
+        <translation>%1 est perdu : le bloc %2 de la ligne %3 n’a pas son propre « { »</translation>
     </message>
     <message>
         <source>put a &quot;{&quot; behind the &quot;:&quot; of that block</source>
-        <translation>mettez un « { » après le « : » de ce bloc</translation>
+        <translation>mettez un « { » après le « : » de ce bloc</translation>
     </message>
     <message>
         <source>a block</source>
@@ -1443,27 +1455,27 @@
     </message>
     <message>
         <source>the &quot;}&quot; in the remark %1 ends the block here</source>
-        <translation>le « } » dans le commentaire %1 termine ici le bloc</translation>
+        <translation>le « } » dans le commentaire %1 termine ici le bloc</translation>
     </message>
     <message>
         <source>take it out, or put in the &quot;=&quot; or &quot;;&quot; that it lacks</source>
-        <translation>retirez-le, ou ajoutez le « = » ou le « ; » qui manque</translation>
+        <translation>retirez-le, ou ajoutez le « = » ou le « ; » qui manque</translation>
     </message>
     <message>
         <source>%1 is skipped: the &quot;;&quot; behind the &quot;}&quot; in line %2 is missing</source>
-        <translation>%1 est sauté : le « ; » après le « } » de la ligne %2 manque</translation>
+        <translation>%1 est sauté : le « ; » après le « } » de la ligne %2 manque</translation>
     </message>
     <message>
         <source>put a &quot;;&quot; behind that brace</source>
-        <translation>mettez un « ; » après cette accolade</translation>
+        <translation>mettez un « ; » après cette accolade</translation>
     </message>
     <message>
         <source>nothing from here on is read: the &quot;}&quot; in line %1 closes no block</source>
-        <translation>à partir d’ici rien n’est lu : le « } » de la ligne %1 ne ferme aucun bloc</translation>
+        <translation>à partir d’ici rien n’est lu : le « } » de la ligne %1 ne ferme aucun bloc</translation>
     </message>
     <message>
         <source>nothing from here on is read: blocks nest deeper than %1</source>
-        <translation>à partir d’ici rien n’est lu : les blocs sont imbriqués à plus de %1 niveaux</translation>
+        <translation>à partir d’ici rien n’est lu : les blocs sont imbriqués à plus de %1 niveaux</translation>
     </message>
     <message>
         <source>take that brace out</source>
@@ -1471,7 +1483,7 @@
     </message>
     <message>
         <source>nothing of this file is read: %1</source>
-        <translation>rien n’est lu de ce fichier : %1</translation>
+        <translation>rien n’est lu de ce fichier : %1</translation>
     </message>
     <message>
         <source>nothing is found in an XML configuration that begins with a declaration or a remark</source>
@@ -1507,27 +1519,27 @@
     </message>
     <message>
         <source>text without a block &quot;palvestrin: {&quot;</source>
-        <translation>du texte sans bloc « palvestrin: { »</translation>
+        <translation>du texte sans bloc « palvestrin: { »</translation>
     </message>
     <message>
         <source>the value of %1 is UTF-8, and is read as Latin-1: %2</source>
-        <translation>la valeur de %1 est en UTF-8, et est lue en Latin-1 : %2</translation>
+        <translation>la valeur de %1 est en UTF-8, et est lue en Latin-1 : %2</translation>
     </message>
     <message>
         <source>save the file as Latin-1, or use &quot;palvestrin config set&quot;</source>
-        <translation>enregistrez le fichier en Latin-1, ou utilisez « palvestrin config set »</translation>
+        <translation>enregistrez le fichier en Latin-1, ou utilisez « palvestrin config set »</translation>
     </message>
     <message>
         <source>%1 is read as part of the value of %2, whose &quot;;&quot; is missing</source>
-        <translation>%1 est lu comme une partie de la valeur de %2, dont le « ; » manque</translation>
+        <translation>%1 est lu comme une partie de la valeur de %2, dont le « ; » manque</translation>
     </message>
     <message>
         <source>put a &quot;;&quot; behind that value</source>
-        <translation>mettez un « ; » après cette valeur</translation>
+        <translation>mettez un « ; » après cette valeur</translation>
     </message>
     <message>
         <source>%1 is read as part of the remark in line %2, which goes on up to the next &quot;;&quot;</source>
-        <translation>%1 est lu comme une partie du commentaire de la ligne %2, qui va jusqu’au « ; » suivant</translation>
+        <translation>%1 est lu comme une partie du commentaire de la ligne %2, qui va jusqu’au « ; » suivant</translation>
     </message>
     <message>
         <source>the value of %1 has %2 bytes and is cut to %3</source>
@@ -1535,11 +1547,11 @@
     </message>
     <message>
         <source>is a &quot;;&quot; missing in it?</source>
-        <translation>y manque-t-il un « ; » ?</translation>
+        <translation>y manque-t-il un « ; » ?</translation>
     </message>
     <message>
         <source>a quote inside the value of %1 vanishes: it is read as %2</source>
-        <translation>un guillemet dans la valeur de %1 disparaît : on lit %2</translation>
+        <translation>un guillemet dans la valeur de %1 disparaît : on lit %2</translation>
     </message>
     <message>
         <source>quotes stand around a value or nowhere</source>
@@ -1547,7 +1559,7 @@
     </message>
     <message>
         <source>did you mean &quot;%1&quot;?</source>
-        <translation>vouliez-vous dire « %1 » ?</translation>
+        <translation>vouliez-vous dire « %1 » ?</translation>
     </message>
     <message>
         <source>Existing log</source>
@@ -1559,7 +1571,19 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>never found: only the first top-level block is searched</source>
+        <translation>jamais trouvé : seul le premier bloc du fichier est parcouru</translation>
+    </message>
+    <message>
+        <source>no program reads this</source>
+        <translation>aucun programme ne lit ceci</translation>
+    </message>
+    <message>
+        <source>no program reads this; did you mean %1?</source>
+        <translation>aucun programme ne lit ceci ; vouliez-vous dire %1 ?</translation>
     </message>
 </context>
 <context>
@@ -1574,7 +1598,7 @@
     </message>
     <message>
         <source>It would never be found: the first block of the file is another.</source>
-        <translation>Il ne serait jamais trouvé : le premier bloc du fichier est un autre.</translation>
+        <translation>Il ne serait jamais trouvé : le premier bloc du fichier est un autre.</translation>
     </message>
     <message>
         <source>Change %1</source>
@@ -1621,7 +1645,7 @@
     </message>
     <message>
         <source>&amp;Copy the paper as text</source>
-        <translation>&amp;Copier le papier comme texte</translation>
+        <translation>&amp;Copier le papier en texte</translation>
     </message>
     <message>
         <source>&amp;Find a setting</source>
@@ -1692,7 +1716,7 @@
     <name>ValueEditor</name>
     <message>
         <source>Default: %1</source>
-        <translation>Par défaut : %1</translation>
+        <translation>Par défaut : %1</translation>
     </message>
     <message>
         <source>Choose a folder…</source>

@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Remove a block</source>
-        <translation>Rimuovere un blocco</translation>
+        <translation>Rimuovi un blocco</translation>
     </message>
     <message>
         <source>Remove the block “%1” with everything in it? You can undo this.</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Add a setting</source>
-        <translation>Aggiungere un’impostazione</translation>
+        <translation>Aggiungi un’impostazione</translation>
     </message>
     <message>
         <source>Key:</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Add a block</source>
-        <translation>Aggiungere un blocco</translation>
+        <translation>Aggiungi un blocco</translation>
     </message>
     <message>
         <source>Name of the block:</source>
@@ -71,7 +71,7 @@
 <context>
     <name>CurrentSetting</name>
     <message>
-        <source>Choose a setting: its meaning is told here, and what it does is marked on the paper.</source>
+        <source>Choose a setting: its meaning is explained here, and what it does is marked on the paper.</source>
         <translation>Scegli un’impostazione: qui è spiegata, e sulla carta è evidenziato ciò che fa.</translation>
     </message>
     <message>
@@ -106,20 +106,20 @@
         <translation>%1 Qui puoi guardare e provare, ma non salvare.</translation>
     </message>
     <message>
-        <source>Not read</source>
-        <translation>Non letto</translation>
+        <source>The file cannot be read</source>
+        <translation>Il file non si può leggere</translation>
     </message>
     <message>
         <source>Merge with the file</source>
-        <translation>Unire con il file</translation>
+        <translation>Unisci con il file</translation>
     </message>
     <message>
         <source>Reload the file</source>
-        <translation>Ricaricare il file</translation>
+        <translation>Ricarica il file</translation>
     </message>
     <message>
         <source>The file was read again. Undo brings your changes back.</source>
-        <translation>Il file è stato riletto. Annulla ripristina le tue modifiche.</translation>
+        <translation>Il file è stato riletto. «Annulla» ripristina le tue modifiche.</translation>
     </message>
     <message>
         <source>Not saved</source>
@@ -189,15 +189,15 @@
         <translation>%1 caratteri per riga</translation>
     </message>
     <message>
-        <source>House</source>
-        <translation>Attività</translation>
+        <source>Kind of business</source>
+        <translation>Tipo di attività</translation>
     </message>
     <message>
         <source>Set up your paper</source>
-        <translation>Configura la tua carta</translation>
+        <translation>Imposta la carta</translation>
     </message>
     <message>
-        <source>There are no settings yet. Choose what comes nearest: the paper at the right shows it. Everything can be changed afterwards.</source>
+        <source>There are no settings yet. Choose what comes nearest: the paper on the right shows it. Everything can be changed afterwards.</source>
         <translation>Non ci sono ancora impostazioni. Scegli ciò che si avvicina di più: la carta a destra lo mostra. Dopo si può cambiare tutto.</translation>
     </message>
     <message>
@@ -213,10 +213,10 @@
     <name>Help</name>
     <message>
         <source>Set up a paper</source>
-        <translation>Configurare la carta</translation>
+        <translation>Imposta la carta</translation>
     </message>
     <message>
-        <source>Choose a document at the left. Its settings are in the middle, its paper is at the right, printed by the real program. Every change shows there at once.</source>
+        <source>Choose a document on the left. Its settings are in the middle, its paper is on the right, printed by the real program. Every change shows there at once.</source>
         <translation>Scegli un documento a sinistra. Al centro ci sono le sue impostazioni, a destra la sua carta, stampata dal programma di stampa stesso. Ogni modifica si vede subito.</translation>
     </message>
     <message>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Nothing is written before you save. Undo takes back every step, and the file as it was stays beside the new one.</source>
-        <translation>Non si scrive nulla prima di salvare. Annulla revoca ogni passo, e il file com’era resta accanto a quello nuovo.</translation>
+        <translation>Non si scrive nulla prima di salvare. «Annulla» riporta indietro ogni passo, e il file com’era resta accanto a quello nuovo.</translation>
     </message>
     <message>
         <source>Shortcuts</source>
@@ -281,6 +281,10 @@
     <message>
         <source>Take all from the file</source>
         <translation>Prendi tutto dal file</translation>
+    </message>
+    <message>
+        <source>This can only be as it is in the file.</source>
+        <translation>Può essere solo com’è nel file.</translation>
     </message>
 </context>
 <context>
@@ -361,8 +365,8 @@
         <translation>Il lavoro non stampa nulla.</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
+        <source>%1%</source>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Save the paper as a picture</source>
@@ -390,6 +394,14 @@
     <message>
         <source>The job takes too long to be shown.</source>
         <translation>Il lavoro richiede troppo tempo per essere mostrato.</translation>
+    </message>
+    <message>
+        <source>The program that prints cannot be started: %1</source>
+        <translation>Il programma che stampa non si avvia: %1</translation>
+    </message>
+    <message>
+        <source>The program that prints has crashed.</source>
+        <translation>Il programma che stampa si è bloccato.</translation>
     </message>
 </context>
 <context>
@@ -650,7 +662,7 @@
         <translation>Telefono</translation>
     </message>
     <message>
-        <source>License number</source>
+        <source>Licence number</source>
         <translation>Partita IVA</translation>
     </message>
     <message>
@@ -698,8 +710,8 @@
         <translation>Apri il cassetto</translation>
     </message>
     <message>
-        <source>Rows of a page</source>
-        <translation>Righe della pagina</translation>
+        <source>Rows per page</source>
+        <translation>Righe per pagina</translation>
     </message>
     <message>
         <source>rows</source>
@@ -718,7 +730,7 @@
         <translation>File di traduzione</translation>
     </message>
     <message>
-        <source>Least level</source>
+        <source>Lowest level</source>
         <translation>Livello minimo</translation>
     </message>
     <message>
@@ -766,16 +778,16 @@
         <translation>Senza effetto</translation>
     </message>
     <message>
-        <source>You may not write this file.</source>
-        <translation>Non hai il permesso di scrivere questo file.</translation>
+        <source>You have no permission to change this file.</source>
+        <translation>Non hai il permesso di modificare questo file.</translation>
     </message>
     <message>
         <source>Its folder cannot be made: a file is in the way.</source>
         <translation>La cartella non si può creare: c’è un file al suo posto.</translation>
     </message>
     <message>
-        <source>You may not write in its folder.</source>
-        <translation>Non hai il permesso di scrivere nella cartella.</translation>
+        <source>You have no permission to write in its folder.</source>
+        <translation>Non hai il permesso di scrivere nella sua cartella.</translation>
     </message>
     <message>
         <source>Restaurant</source>
@@ -811,7 +823,7 @@
     </message>
     <message>
         <source>a value has room for %1 bytes, this one has %2; shorten it</source>
-        <translation>un valore ha posto per %1 byte, questo ne ha %2; accorcialo</translation>
+        <translation>un valore può avere al massimo %1 byte, questo ne ha %2; accorcialo</translation>
     </message>
     <message>
         <source>give a whole number from 0 to %1</source>
@@ -863,7 +875,7 @@
     </message>
     <message>
         <source>the block %1 is never looked into: only the first one of a file is</source>
-        <translation>nel blocco %1 nessuno guarda: solo nel primo di un file</translation>
+        <translation>il blocco %1 non viene mai letto: si legge solo il primo di un file</translation>
     </message>
     <message>
         <source>move it to the front, and what is there into it</source>
@@ -875,7 +887,7 @@
     </message>
     <message>
         <source>no program looks into the block %1</source>
-        <translation>nessun programma guarda nel blocco %1</translation>
+        <translation>nessun programma legge il blocco %1</translation>
     </message>
     <message>
         <source>it belongs into the block &quot;%1&quot;</source>
@@ -887,7 +899,7 @@
     </message>
     <message>
         <source>%1 stands outside the blocks, where no program looks</source>
-        <translation>%1 sta fuori dai blocchi, dove nessun programma guarda</translation>
+        <translation>%1 sta fuori dai blocchi, dove nessun programma legge</translation>
     </message>
     <message>
         <source>move it into a block of the block &quot;%1&quot;</source>
@@ -911,7 +923,7 @@
     </message>
     <message>
         <source>%1 is given twice: this value %2 does not count, the one in line %3 does</source>
-        <translation>%1 è dato due volte: questo valore %2 non conta, conta quello alla riga %3</translation>
+        <translation>%1 compare due volte: questo valore %2 non conta, conta quello alla riga %3</translation>
     </message>
     <message>
         <source>remove one of them</source>
@@ -951,7 +963,7 @@
     </message>
     <message>
         <source>%1 is no sensible value for %2</source>
-        <translation>%1 non è un valore sensato per %2</translation>
+        <translation>%1 non è un valore valido per %2</translation>
     </message>
     <message>
         <source>%1 counts as %2 for %3</source>
@@ -1099,7 +1111,7 @@
     </message>
     <message>
         <source>open the drawer of a receipt printer, once before the first receipt</source>
-        <translation>apre il cassetto di una stampante di scontrini, una volta prima del primo scontrino</translation>
+        <translation>apre il cassetto di una stampante di scontrini, una volta prima della prima ricevuta</translation>
     </message>
     <message>
         <source>empty lines on top, with printGeometry</source>
@@ -1187,7 +1199,7 @@
     </message>
     <message>
         <source>off</source>
-        <translation>no</translation>
+        <translation>disattivato</translation>
     </message>
     <message>
         <source>printing</source>
@@ -1239,11 +1251,11 @@
     </message>
     <message>
         <source>the text form has no room for &apos;;&apos; and &apos;&quot;&apos;, characters outside Latin-1, and more than 2044 bytes</source>
-        <translation>la forma testuale non ha posto per «;» e «&quot;», caratteri fuori da Latin-1 e più di 2044 byte</translation>
+        <translation>la forma testuale non può contenere «;» e «&quot;», caratteri fuori da Latin-1 e più di 2044 byte</translation>
     </message>
     <message>
         <source>the XML form has no room for pairs outside the first block, names that are no XML names, and &apos;&quot;&apos;, &apos;&lt;&apos;, &apos;&amp;&apos; and line breaks in values</source>
-        <translation>la forma XML non ha posto per coppie fuori dal primo blocco, nomi che non sono nomi XML, e «&quot;», «&lt;», «&amp;» e interruzioni di riga nei valori</translation>
+        <translation>la forma XML non può contenere coppie fuori dal primo blocco, nomi che non sono nomi XML, e «&quot;», «&lt;», «&amp;» e interruzioni di riga nei valori</translation>
     </message>
     <message>
         <source>it is no regular file; give one</source>
@@ -1315,7 +1327,7 @@
     </message>
     <message>
         <source>the end of %1: a name has room for %2 bytes, blanks in front included</source>
-        <translation>la fine di %1: un nome ha posto per %2 byte, compresi gli spazi iniziali</translation>
+        <translation>la fine di %1: un nome può avere al massimo %2 byte, compresi gli spazi iniziali</translation>
     </message>
     <message>
         <source>blocks nested deeper than %1, and everything behind</source>
@@ -1339,7 +1351,7 @@
     </message>
     <message>
         <source>the end of the value of %1: a value has room for %2 bytes</source>
-        <translation>la fine del valore di %1: un valore ha posto per %2 byte</translation>
+        <translation>la fine del valore di %1: un valore può avere al massimo %2 byte</translation>
     </message>
     <message>
         <source>everything behind this brace, which closes no block</source>
@@ -1387,11 +1399,11 @@
     </message>
     <message>
         <source>belongs to no setting and is dropped</source>
-        <translation>non appartiene a nessuna impostazione e viene eliminato</translation>
+        <translation>non appartiene a nessuna impostazione e viene ignorato</translation>
     </message>
     <message>
         <source>the block %1 has no &quot;{&quot;: everything behind its name is dropped</source>
-        <translation>il blocco %1 non ha «{»: tutto ciò che segue il nome viene eliminato</translation>
+        <translation>il blocco %1 non ha «{»: tutto ciò che segue il nome viene ignorato</translation>
     </message>
     <message>
         <source>put a &quot;{&quot; behind its name and the &quot;:&quot;</source>
@@ -1407,7 +1419,7 @@
     </message>
     <message>
         <source>stands between a block&apos;s name and its &quot;{&quot; and is dropped</source>
-        <translation>sta tra il nome di un blocco e il suo «{» e viene eliminato</translation>
+        <translation>sta tra il nome di un blocco e il suo «{» e viene ignorato</translation>
     </message>
     <message>
         <source>%1 is lost: the &quot;:&quot; of the remark in line %2 drops everything up to the next &quot;{&quot;</source>
@@ -1561,6 +1573,18 @@
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>never found: only the first top-level block is searched</source>
+        <translation>mai trovata: si cerca solo nel primo blocco del file</translation>
+    </message>
+    <message>
+        <source>no program reads this</source>
+        <translation>nessun programma legge questa voce</translation>
+    </message>
+    <message>
+        <source>no program reads this; did you mean %1?</source>
+        <translation>nessun programma legge questa voce; intendevi %1?</translation>
+    </message>
 </context>
 <context>
     <name>SettingsModel</name>
@@ -1673,7 +1697,7 @@
     </message>
     <message>
         <source>Begin with a preset</source>
-        <translation>Iniziare con un modello</translation>
+        <translation>Inizia con un modello</translation>
     </message>
     <message>
         <source>%1[*] – Palvestrin Print</source>

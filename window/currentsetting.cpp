@@ -35,7 +35,7 @@ QString explanationOf(const QString &key)
 {
     if (key.isEmpty())
         return CurrentSetting::tr(
-            "Choose a setting: its meaning is told here, and what it does is marked on the paper.");
+            "Choose a setting: its meaning is explained here, and what it does is marked on the paper.");
     const knownkeys::Key *known = knownkeys::find(key);
     if (!known) {
         const QString content = contentOf(key);

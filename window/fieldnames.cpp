@@ -31,7 +31,7 @@ constexpr SettingName names[] = {
     {"printDeliveryAddress"_L1, QT_TRANSLATE_NOOP("Settings", "Delivery address"), Group::Customer},
     {"printBillingAddress"_L1, QT_TRANSLATE_NOOP("Settings", "Billing address"), Group::Customer},
     {"printTelephone"_L1, QT_TRANSLATE_NOOP("Settings", "Telephone"), Group::Customer},
-    {"printLicenseNumber"_L1, QT_TRANSLATE_NOOP("Settings", "License number"), Group::Customer},
+    {"printLicenseNumber"_L1, QT_TRANSLATE_NOOP("Settings", "Licence number"), Group::Customer},
     {"printFiscalCode"_L1, QT_TRANSLATE_NOOP("Settings", "Fiscal code"), Group::Customer},
     {"printCredit"_L1, QT_TRANSLATE_NOOP("Settings", "Credit"), Group::Order},
     {"printDate"_L1, QT_TRANSLATE_NOOP("Settings", "Date"), Group::Order},
@@ -42,12 +42,12 @@ constexpr SettingName names[] = {
     {"copyNumber"_L1, QT_TRANSLATE_NOOP("Settings", "Copies"), Group::Printer, &copies, Editor::Number},
     {"printLogo"_L1, QT_TRANSLATE_NOOP("Settings", "Logo"), Group::Printer},
     {"openCashDrawer"_L1, QT_TRANSLATE_NOOP("Settings", "Open the cash drawer"), Group::Printer},
-    {"paperRows"_L1, QT_TRANSLATE_NOOP("Settings", "Rows of a page"), Group::Printer, &rows},
+    {"paperRows"_L1, QT_TRANSLATE_NOOP("Settings", "Rows per page"), Group::Printer, &rows},
     {"style"_L1, QT_TRANSLATE_NOOP("Settings", "Style"), Group::WithoutEffect},
 
     {"basedir"_L1, QT_TRANSLATE_NOOP("Settings", "Folder"), Group::General, nullptr, Editor::Folder},
     {"file"_L1, QT_TRANSLATE_NOOP("Settings", "Translation file"), Group::General},
-    {"level"_L1, QT_TRANSLATE_NOOP("Settings", "Least level"), Group::General},
+    {"level"_L1, QT_TRANSLATE_NOOP("Settings", "Lowest level"), Group::General},
     {"filename"_L1, QT_TRANSLATE_NOOP("Settings", "File name"), Group::General},
     {"type"_L1, QT_TRANSLATE_NOOP("Settings", "Existing log"), Group::General},
     {"dbname"_L1, QT_TRANSLATE_NOOP("Settings", "Database name"), Group::General},
@@ -129,5 +129,7 @@ QString maskedValue(const QString &key, const QString &value)
 
 QString defaultText(const knownkeys::Key &key)
 {
+    if (settingName(key.name).editor == Editor::Number) // of copies
+        return u"1"_s;
     return key.whenMissing == "\"\""_L1 ? UserWords::tr("empty") : inUserLanguage(key.whenMissing);
 }

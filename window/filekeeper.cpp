@@ -92,7 +92,7 @@ void FileKeeper::mergeWithFile()
     try {
         merge(std::make_unique<ConfigFile>(model.path()));
     } catch (const CommandError &error) {
-        QMessageBox::critical(&window, tr("Not read"), messagesOf(error));
+        QMessageBox::critical(&window, tr("The file cannot be read"), messagesOf(error));
     }
 }
 
@@ -120,7 +120,7 @@ void FileKeeper::reload()
         tellObstacle();
         Q_EMIT done(tr("The file was read again. Undo brings your changes back."));
     } catch (const CommandError &error) {
-        QMessageBox::critical(&window, tr("Not read"), messagesOf(error));
+        QMessageBox::critical(&window, tr("The file cannot be read"), messagesOf(error));
     }
 }
 
@@ -137,10 +137,10 @@ bool FileKeeper::refusesToSave()
     return true;
 }
 
-bool FileKeeper::agreesToLosses(const ConfigFile &current)
+bool FileKeeper::agreesToLosses()
 {
     QStringList lost;
-    for (const Loss &loss : current.losses())
+    for (const Loss &loss : model.baseline().losses())
         lost += tr("Line %1: %2").arg(loss.at.line).arg(loss.what);
     const TreeState tree = model.state();
     for (qsizetype later = 1; later < tree.blocks.size(); ++later)
@@ -190,6 +190,8 @@ void FileKeeper::write()
 {
     if (!model.isModified()) // all was taken from the file
         return;
+    if (!agreesToLosses()) // before the lock, which nobody holds while a question waits
+        return;
     FileReplacement replacement(model.path());
     writeThrough(replacement);
 }
@@ -201,8 +203,6 @@ void FileKeeper::writeThrough(FileReplacement &replacement)
         throw CommandError(ExitCode::Busy, model.path(),
                            tr("another program is changing the file; save again when it is done"));
     }
-    if (!agreesToLosses(current))
-        return;
     const FileName backup = model.save(current, replacement);
     watch();
     Q_EMIT done(backup.isEmpty() ? tr("Saved %1").arg(model.path().shown())

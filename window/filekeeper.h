@@ -47,7 +47,7 @@ private:
     bool refusesToSave();
     void write();
     void writeThrough(FileReplacement &replacement);
-    bool agreesToLosses(const ConfigFile &current);
+    bool agreesToLosses();
 
     SettingsModel &model;
     MessageBar &bar;

@@ -57,7 +57,7 @@ FirstUse::FirstUse(QWidget *parent)
         addChoice(column, papers, tr("%1 mm").arg(paper.name),
                   tr("%1 characters on a line").arg(paper.columns));
     column->addSpacing(gap);
-    addHeading(column, tr("House"), 1.1);
+    addHeading(column, tr("Kind of business"), 1.1);
     for (const presets::House &house : presets::houses)
         addChoice(column, houses, inUserLanguage(house.title), inUserLanguage(house.purpose));
     column->addSpacing(gap);
@@ -78,7 +78,7 @@ void FirstUse::addIntroduction(QVBoxLayout *column)
 {
     addHeading(column, tr("Set up your paper"), 1.5);
     auto *text = new QLabel(
-        tr("There are no settings yet. Choose what comes nearest: the paper at the right shows it. "
+        tr("There are no settings yet. Choose what comes nearest: the paper on the right shows it. "
            "Everything can be changed afterwards."));
     text->setWordWrap(true);
     column->addWidget(text);

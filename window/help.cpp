@@ -43,8 +43,8 @@ QString keysOf(QWidget &window)
 QString helpText(QWidget &window)
 {
     return paragraph(Help::tr("Set up a paper"),
-                     Help::tr("Choose a document at the left. Its settings are in the middle, its paper is "
-                              "at the right, "
+                     Help::tr("Choose a document on the left. Its settings are in the middle, its paper is "
+                              "on the right, "
                               "printed by the real program. Every change shows there at once.")) +
            paragraph(Help::tr("See what a setting does"),
                      Help::tr("Go to a field: its meaning is told below, and the rows that it concerns are "

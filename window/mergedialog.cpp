@@ -58,8 +58,12 @@ MergeDialog::MergeDialog(SettingsModel &model, ConfigFile &theirFile, QWidget *p
     const auto base = valuesOf(model.savedState());
     const auto their = valuesOf(stateOf(theirs.config()));
     for (const QString &key : keysOf(mine, their)) {
-        if (mine.value(key) != their.value(key))
-            addDifference(key, mine.value(key), their.value(key), mine.value(key) == base.value(key));
+        const QString here = mine.value(key);
+        const QString there = their.value(key);
+        if (here != there && mayKeep(model, key, here, there))
+            addDifference(key, here, there, here == base.value(key));
+        else if (here != there)
+            refuseToKeep(*addDifference(key, here, there, true));
     }
     for (int column = 0; column < 2; ++column)
         list->resizeColumnToContents(column);
@@ -77,14 +81,35 @@ MergeDialog::MergeDialog(SettingsModel &model, ConfigFile &theirFile, QWidget *p
     resize(640, 400);
 }
 
-void MergeDialog::addDifference(const QString &key, const QString &mine, const QString &theirValue,
-                                bool takesTheirs)
+QTreeWidgetItem *MergeDialog::addDifference(const QString &key, const QString &mine,
+                                            const QString &theirValue, bool takesTheirs)
 {
     auto *row = new QTreeWidgetItem(list, {nameWithPage(key), shown(key, mine), shown(key, theirValue)});
     row->setData(0, keyRole, key);
     row->setData(0, mineRole, mine);
     row->setToolTip(0, key);
     row->setCheckState(0, takesTheirs ? Qt::Checked : Qt::Unchecked);
+    return row;
+}
+
+/// Whether the key could be in the file as it is here: only what a look-up reaches is set or removed by key.
+bool MergeDialog::mayKeep(const SettingsModel &model, const QString &key, const QString &mine,
+                          const QString &theirValue)
+{
+    libconfig::Config &there = theirs.config();
+    if (!key.contains(u'.'))
+        return false;
+    if (mine.isEmpty())
+        return there.lookup(key) == theirValue;
+    const QDomElement first = there.root().firstChildElement();
+    return model.value(key) == mine && (first.isNull() || first.tagName() == key.section(u'.', 0, 0));
+}
+
+void MergeDialog::refuseToKeep(QTreeWidgetItem &row)
+{
+    row.setCheckState(0, Qt::Checked);
+    row.setDisabled(true);
+    row.setToolTip(0, tr("This can only be as it is in the file."));
 }
 
 void MergeDialog::takeAllTheirs()

@@ -6,6 +6,7 @@
 
 class ConfigFile;
 class QTreeWidget;
+class QTreeWidgetItem;
 class SettingsModel;
 
 /// Shows in which settings the window and a file that another program changed differ, and lets the user
@@ -23,7 +24,11 @@ public:
     QTreeWidget *differences() const { return list; }
 
 private:
-    void addDifference(const QString &key, const QString &mine, const QString &theirValue, bool takesTheirs);
+    QTreeWidgetItem *addDifference(const QString &key, const QString &mine, const QString &theirValue,
+                                   bool takesTheirs);
+    bool mayKeep(const SettingsModel &model, const QString &key, const QString &mine,
+                 const QString &theirValue);
+    void refuseToKeep(QTreeWidgetItem &row);
     void takeAllTheirs();
 
     ConfigFile &theirs;

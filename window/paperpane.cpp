@@ -235,7 +235,7 @@ void PaperPane::highlight()
 
 void PaperPane::showZoom()
 {
-    zoomLabel->setText(tr("%1 %").arg(view->zoom()));
+    zoomLabel->setText(tr("%1%").arg(view->zoom()));
 }
 
 void PaperPane::copyText()

@@ -10,23 +10,30 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int longestRun = 10'000; // milliseconds; a ticket takes three
 const QString configurationFile = u".palvestrin/conf/palvestrin.conf"_s;
 
 } // namespace
 
-PaperTask::PaperTask(QObject *parent) : QObject(parent)
+PaperTask::PaperTask(QObject *parent, int limit) : QObject(parent)
 {
-    QDir(home.path()).mkpath(u".palvestrin/conf"_s);
+    if (home.isValid()) // otherwise its path is the folder in which the window was started
+        QDir(home.path()).mkpath(u".palvestrin/conf"_s);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, home.path());
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setStandardInputFile(QProcess::nullDevice());
     connect(&process, &QProcess::finished, this, &PaperTask::finish);
+    connect(&process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) // then it never finishes
+            finish();
+    });
     patience.setSingleShot(true);
-    patience.setInterval(longestRun);
-    connect(&patience, &QTimer::timeout, &process, &QProcess::kill);
+    patience.setInterval(limit);
+    connect(&patience, &QTimer::timeout, this, [this] {
+        ranTooLong = true;
+        process.kill();
+    });
 }
 
 PaperTask::~PaperTask()
@@ -52,9 +59,11 @@ void PaperTask::start()
     }
     QFile::remove(home.filePath(u"output"_s));
     try {
-        process.start(companionPath({u"palvestrin-print"_s, u"palvestrin-print"_s}),
-                      {home.filePath(u"job.xml"_s), home.filePath(u"output"_s)}, QIODevice::ReadOnly);
+        const QString program = companionPath({u"palvestrin-print"_s, u"palvestrin-print"_s});
+        ranTooLong = false;
         patience.start();
+        process.start(program, {home.filePath(u"job.xml"_s), home.filePath(u"output"_s)},
+                      QIODevice::ReadOnly);
     } catch (const CommandError &error) {
         fail(error.messages().front());
     }
@@ -67,13 +76,24 @@ void PaperTask::finish()
         start();
         return;
     }
-    if (process.exitStatus() == QProcess::CrashExit) {
-        fail(tr("The job takes too long to be shown."));
+    if (const QString trouble = troubleWithRun(); !trouble.isEmpty()) {
+        fail(trouble);
         return;
     }
     QFile output(home.filePath(u"output"_s));
     const QByteArray stream = output.open(QIODevice::ReadOnly) ? output.readAll() : QByteArray();
     Q_EMIT printed(stream, QString::fromLocal8Bit(process.readAll()).trimmed());
+}
+
+/// Why there is no paper; "" when the program came to its end.
+QString PaperTask::troubleWithRun() const
+{
+    if (process.error() == QProcess::FailedToStart)
+        return tr("The program that prints cannot be started: %1").arg(process.errorString());
+    if (process.exitStatus() != QProcess::CrashExit)
+        return {};
+    return ranTooLong ? tr("The job takes too long to be shown.")
+                      : tr("The program that prints has crashed.");
 }
 
 bool PaperTask::write(const QString &name, const QByteArray &content) const

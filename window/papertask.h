@@ -15,7 +15,10 @@ class PaperTask : public QObject
     Q_OBJECT
 
 public:
-    explicit PaperTask(QObject *parent = nullptr);
+    static constexpr int longestRun = 10'000; ///< milliseconds; a ticket takes three
+
+    /// What runs longer than `limit`, in milliseconds, is ended.
+    explicit PaperTask(QObject *parent = nullptr, int limit = longestRun);
     ~PaperTask() override;
 
     void print(const QByteArray &configuration, const QByteArray &job);
@@ -35,11 +38,13 @@ private:
 
     void start();
     void finish();
+    QString troubleWithRun() const;
     bool write(const QString &name, const QByteArray &content) const;
     void fail(const QString &why);
 
     QTemporaryDir home;
     QProcess process;
     QTimer patience;
+    bool ranTooLong = false;
     std::optional<Request> next; ///< what is to be printed when the program is free
 };

@@ -118,6 +118,18 @@ private Q_SLOTS:
         }
     }
 
+    void noSignStandsAloneOnALine()
+    {
+        static const QRegularExpression loose(u"\u00ab | \u00bb| [:;?!]| %(?![0-9])"_s);
+        for (const CatalogueEntry &entry : readCatalogue(sourcePath(u"fr"_s)))
+            QVERIFY2(!entry.translation.contains(loose), qPrintable(entry.translation));
+        static const QRegularExpression percent(u" %(?![0-9])"_s);
+        for (const QString &language : languages) {
+            for (const CatalogueEntry &entry : readCatalogue(sourcePath(language)))
+                QVERIFY2(!entry.translation.contains(percent), qPrintable(entry.translation));
+        }
+    }
+
     void theTablesSpeakTheLanguage()
     {
         QTranslator catalogue;

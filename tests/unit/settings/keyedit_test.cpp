@@ -66,6 +66,7 @@ private Q_SLOTS:
         ConfigFile test = file("other:{k=1;};p:{k=2;};");
         QVERIFY(!setKey(test.config(), u"p.k"_s, u"v"_s));
         QCOMPARE(test.written(form::text), "other: \n{\n    k = \"1\";\n};\n\n");
+        QVERIFY(!setKey(test.config(), u"k"_s, u"v"_s)); // no block at all
     }
 
     void removesEverywhereAndLeavesNoEmptyBlocks()

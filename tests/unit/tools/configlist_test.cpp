@@ -38,10 +38,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("meaning");
         QTest::newRow("none") << u"tlh"_s << u"print the order's table; when missing: off"_s;
-        QTest::newRow("it") << u"it"_s << u"stampa il tavolo dell\u2019ordine; se manca: no"_s;
+        QTest::newRow("it") << u"it"_s << u"stampa il tavolo dell\u2019ordine; se manca: disattivato"_s;
         QTest::newRow("de") << u"de"_s << u"druckt den Tisch der Bestellung; wenn es fehlt: aus"_s;
-        QTest::newRow("fr") << u"fr"_s << u"imprime la table de la commande ; s\u2019il manque : non"_s;
-        QTest::newRow("es") << u"es"_s << u"imprime la mesa del pedido; si falta: no"_s;
+        QTest::newRow("fr")
+            << u"fr"_s
+            << u"imprime la table de la commande\u202f; s\u2019il manque\u00a0: d\u00e9sactiv\u00e9"_s;
+        QTest::newRow("es") << u"es"_s << u"imprime la mesa del pedido; si falta: desactivado"_s;
     }
     void theMeaningsAreInTheUsersLanguage()
     {
@@ -52,6 +54,32 @@ private Q_SLOTS:
             QStringLiteral(PALVESTRIN_PROGRAM), {u"config"_s, u"list"_s, u"palvestrin.doc.printTable"_s},
             bareEnvironment(home.path()) << u"LC_ALL=en_US.UTF-8"_s << u"LANGUAGE="_s + language);
         QVERIFY2(QString::fromUtf8(run.standardOutput).contains(meaning), run.standardOutput);
+    }
+
+    void whatIsWrongWithAKeyIsInTheUsersLanguageAndEnglishInJson()
+    {
+        const ScratchFolder home;
+        const QString file = home.write(
+            u"c.conf"_s,
+            "palvestrin: { doc: { printTabel = 1; mine_and_only_mine = 2; }; }; later: { it = 3; };");
+        const auto list = [&](const QStringList &options) {
+            const ProgramRun run =
+                runProgram(QStringLiteral(PALVESTRIN_PROGRAM),
+                           QStringList{u"config"_s, u"list"_s} + options + QStringList{u"--file"_s, file},
+                           bareEnvironment(home.path()) << u"LC_ALL=en_US.UTF-8"_s << u"LANGUAGE=de"_s);
+            return QString::fromUtf8(run.standardOutput);
+        };
+        const QString text = list({});
+        QVERIFY2(
+            text.contains(u"kein Programm liest das; meinten Sie palvestrin.doc.printTable?\n"_s) &&
+                text.contains(u"palvestrin.doc.mine_and_only_mine = 2\n    kein Programm liest das\n"_s) &&
+                text.contains(u"nie gefunden: Gesucht wird nur im ersten Block der Datei\n"_s),
+            qPrintable(text));
+        const QString json = list({u"--json"_s});
+        QVERIFY2(json.contains("\"no program reads this; did you mean palvestrin.doc.printTable?\""_L1) &&
+                     json.contains("\"no program reads this\""_L1) &&
+                     json.contains("\"never found: only the first top-level block is searched\""_L1),
+                 qPrintable(json));
     }
 
     void aNameIsABlockASettingOrABeginning_data()

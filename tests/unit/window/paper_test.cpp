@@ -1,5 +1,6 @@
 // The paper at the right: the real program's, at every change, with the rows marked that the field concerns.
 
+#include "allkeys.h"
 #include "colours.h"
 #include "pages.h"
 #include "paperpane.h"
@@ -236,6 +237,49 @@ private Q_SLOTS:
         showReady(window);
         window.paperPane().copyText();
         QCOMPARE(QApplication::clipboard()->text(), paperText(window));
+    }
+
+    void whatKeepsThePaperAwayIsTold_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<QString>("said");
+        QTest::newRow("it hangs") << QByteArray("#!/bin/sh\nexec sleep 30\n")
+                                  << u"The job takes too long to be shown."_s;
+        QTest::newRow("it crashes") << QByteArray("#!/bin/sh\nkill -SEGV $$\n")
+                                    << u"The program that prints has crashed."_s;
+        QTest::newRow("it does not start")
+            << QByteArray("#!/no/such/interpreter\n") << u"The program that prints cannot be started: "_s;
+    }
+    void whatKeepsThePaperAwayIsTold()
+    {
+        QFETCH(QByteArray, program);
+        QFETCH(QString, said);
+        const ScratchFolder folder;
+        QFile::setPermissions(folder.write(u"palvestrin-print"_s, program),
+                              QFile::ReadOwner | QFile::ExeOwner);
+        const SearchPath path(folder.path() + u':' + qEnvironmentVariable("PATH"));
+        PaperTask task(nullptr, 1000);
+        QSignalSpy printed(&task, &PaperTask::printed);
+        task.print("", "<job/>");
+        QTRY_COMPARE(printed.size(), 1);
+        QVERIFY2(printed.first().at(1).toString().startsWith(said),
+                 qPrintable(printed.first().at(1).toString()));
+        QVERIFY(!task.isRunning());
+    }
+
+    void thePaperFollowsAllKeys()
+    {
+        const ScratchFolder folder;
+        SettingsWindow window(folder.write(
+            u"c.conf"_s, "palvestrin: { doc: { printTable = true; }; billdoc: { printTable = true; }; "
+                         "invoicedoc: { printDate = true; }; };"));
+        showReady(window);
+        window.showAllKeys();
+        window.allKeys().jumpTo(u"palvestrin.invoicedoc.printDate"_s);
+        QCOMPARE(window.paperPane().findChild<QComboBox *>()->itemText(0), u"Example: Invoice"_s);
+        QVERIFY(waitForPaper(window));
+        window.allKeys().jumpTo(u"palvestrin.doc"_s); // of a block, too
+        QCOMPARE(window.paperPane().findChild<QComboBox *>()->itemText(0), u"Example: Kitchen ticket"_s);
     }
 
     void theLastRequestWins()

@@ -24,6 +24,7 @@
 #include <QTreeView>
 #include <QTreeWidget>
 
+#include <ctime>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -322,7 +323,8 @@ private Q_SLOTS:
         if (isRoot)
             QCOMPARE(::seteuid(0), 0);
         QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        QCOMPARE(told, u"You may not write this file. You can look and try here, but not save."_s);
+        QCOMPARE(told,
+                 u"You have no permission to change this file. You can look and try here, but not save."_s);
     }
 
     void anotherProgramsChangeIsToldAndMergedKeyByKey()
@@ -358,6 +360,88 @@ private Q_SLOTS:
         QVERIFY(!window.isWindowModified());
         QTest::keySequence(&window, QKeySequence::Undo);
         QCOMPARE(window.settings().value(u"palvestrin.doc.printWaiter"_s), u"false"_s);
+    }
+
+    void aQuestionHoldsUpNobodyElse()
+    {
+        const ScratchFolder folder;
+        const QString path = folder.write(u"c.conf"_s, QByteArray(kitchenConfiguration) + "# the end\n");
+        SettingsWindow window(path);
+        window.settings().set(u"palvestrin.doc.paperWidth"_s, u"48"_s);
+        bool isFree = false;
+        QTimer asking;
+        asking.callOnTimeout([&] {
+            auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!question)
+                return;
+            asking.stop();
+            try {
+                const FileReplacement another(path);
+                isFree = true;
+            } catch (const CommandError &) { // the lock is held
+            }
+            question->button(QMessageBox::Cancel)->click();
+        });
+        asking.start(10);
+        QVERIFY(!window.save());
+        QVERIFY(isFree);
+    }
+
+    void whatCannotBeKeptIsTakenFromTheFile()
+    {
+        const ScratchFolder folder;
+        const QString path =
+            folder.write(u"c.conf"_s, "palvestrin: { doc: { x.y = 1; }; }; b: { c = 1; }; d = 1;");
+        SettingsModel model(path);
+        folder.write(u"c.conf"_s, "palvestrin: { doc: { x.y = 2; z = 2; }; }; b: { c = 2; }; d = 2;");
+        ConfigFile theirs(path);
+        MergeDialog dialog(model, theirs);
+        QStringList kept;
+        for (int row = 0; row < dialog.differences()->topLevelItemCount(); ++row) {
+            QTreeWidgetItem *item = dialog.differences()->topLevelItem(row);
+            if (item->isDisabled())
+                QCOMPARE(item->toolTip(0), u"This can only be as it is in the file."_s);
+            else
+                kept += item->toolTip(0);
+            if (!item->isDisabled())
+                item->setCheckState(0, Qt::Unchecked);
+            else
+                QCOMPARE(item->checkState(0), Qt::Checked);
+        }
+        QCOMPARE(kept, QStringList{u"palvestrin.doc.z"_s});
+        model.adopt(std::make_unique<ConfigFile>(path), dialog.merged(), u"Merge"_s);
+        QCOMPARE(model.value(u"palvestrin.doc.z"_s), QString());
+        QVERIFY(model.isModified());
+    }
+
+    void copiesAreShownAsTheyAreStored_data()
+    {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("not set") << QByteArray("") << u"1 copy"_s;
+        QTest::newRow("none") << QByteArray("copyNumber = 0;") << u"0 copies"_s;
+        QTest::newRow("most") << QByteArray("copyNumber = 99;") << u"99 copies"_s;
+        QTest::newRow("more") << QByteArray("copyNumber = 150;") << u"150 copies"_s;
+    }
+    void copiesAreShownAsTheyAreStored()
+    {
+        QFETCH(QByteArray, stored);
+        QFETCH(QString, shown);
+        const ScratchFolder folder;
+        SettingsWindow window(
+            folder.write(u"c.conf"_s, "palvestrin: { invoicedoc: { paperWidth = 48; " + stored + " }; };"));
+        SettingField *field = fieldOf(window, u"palvestrin.invoicedoc.copyNumber"_s);
+        QCOMPARE(qobject_cast<QSpinBox *>(field->focus())->text(), shown);
+        QCOMPARE(defaultText(field->key()), u"1"_s);
+        QVERIFY(!window.settings().isModified());
+    }
+
+    void aNumberIsShownAsItIsStored()
+    {
+        const ScratchFolder folder;
+        SettingsWindow window(folder.write(u"c.conf"_s, "palvestrin: { doc: { paperWidth = 1500; }; };"));
+        SettingField *field = fieldOf(window, u"palvestrin.doc.paperWidth"_s);
+        QCOMPARE(qobject_cast<QSpinBox *>(field->focus())->text(), u"1500 characters"_s);
     }
 
     void aFileThatIsGoneIsToldAndWrittenAnew_data()
@@ -500,6 +584,46 @@ private Q_SLOTS:
         QCOMPARE(window.form()->page().title(), u"Invoice"_s);
         QCOMPARE(QApplication::focusWidget()->parentWidget()->objectName(),
                  u"palvestrin.invoicedoc.copyNumber"_s);
+    }
+
+    void whatNoLookUpReachesIsNotChanged()
+    {
+        const ScratchFolder folder;
+        SettingsWindow window(folder.write(u"c.conf"_s, "palvestrin:{doc:{x.y=1;};}; b:{c=2;}; d=3;"));
+        window.results().find({}, true, false);
+        QCOMPARE(window.results().emptyText(), u"Nothing has been changed."_s);
+        window.settings().set(u"palvestrin.doc.paperWidth"_s, u"48"_s);
+        QCOMPARE(window.results().count(), 1);
+    }
+
+    void theTimeOfAChangeGrowsNoFasterThanTheFile()
+    {
+        const ScratchFolder folder;
+        const auto timeOf = [&](int pairs) {
+            QByteArray content = "palvestrin: { doc: { paperWidth = 32; }; mine: {";
+            for (int number = 0; number < pairs; ++number)
+                content += " k" + QByteArray::number(number) + " = 1;";
+            SettingsModel model(folder.write(u"c.conf"_s, content + " }; };"));
+            PageList list(model);
+            connect(&model, &SettingsModel::changed, &list, &PageList::refresh);
+            const std::clock_t begin = std::clock(); // of this process, whatever else runs
+            model.set(u"palvestrin.doc.paperWidth"_s, u"48"_s);
+            return std::clock() - begin;
+        };
+        const std::clock_t small = timeOf(5'000);
+        const std::clock_t large = timeOf(50'000);
+        QVERIFY2(large < 30 * small, qPrintable(u"%1 against %2"_s.arg(large).arg(small)));
+    }
+
+    void aSearchThatIsOverFindsNothing()
+    {
+        const ScratchFolder folder;
+        SettingsWindow window(folder.write(u"c.conf"_s, exampleConfiguration));
+        auto *field = window.findChild<QLineEdit *>(u"search"_s);
+        field->setText(u"level"_s);
+        QVERIFY(window.results().count() > 0);
+        field->clear();
+        QCOMPARE(window.results().count(), 0); // so that no change has to look through all settings
     }
 
     void filtersShowWhatIsChangedAndWhatIsWrong()
