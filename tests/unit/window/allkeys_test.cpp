@@ -115,7 +115,8 @@ private Q_SLOTS:
     void aBlockTellsWhatItHolds()
     {
         const ScratchFolder folder;
-        SettingsWindow window(folder.write(u"c.conf"_s, "palvestrin: { doc: { x = 1; }; mine: { y = 2; }; };"));
+        SettingsWindow window(
+            folder.write(u"c.conf"_s, "palvestrin: { doc: { x = 1; }; mine: { y = 2; }; };"));
         window.showAllKeys();
         AllKeys &page = window.allKeys();
         page.tree()->setCurrentItem(rowOf(page, u"palvestrin"_s));
