@@ -224,7 +224,7 @@
         <translation>Sehen, was eine Einstellung bewirkt</translation>
     </message>
     <message>
-        <source>Go to a field: its meaning is told below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
+        <source>Go to a field: its meaning is explained below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
         <translation>Gehen Sie in ein Feld: Darunter steht seine Bedeutung, und auf dem Papier sind die Zeilen markiert, die es betrifft. Was über den Rand läuft, ist rot.</translation>
     </message>
     <message>

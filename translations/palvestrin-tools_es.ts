@@ -224,7 +224,7 @@
         <translation>Ver qué hace un ajuste</translation>
     </message>
     <message>
-        <source>Go to a field: its meaning is told below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
+        <source>Go to a field: its meaning is explained below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
         <translation>Vaya a un campo: debajo se explica su significado y en el papel se marcan las líneas a las que afecta. Lo que se sale del borde está en rojo.</translation>
     </message>
     <message>

@@ -224,7 +224,7 @@
         <translation>Voir l’effet d’un réglage</translation>
     </message>
     <message>
-        <source>Go to a field: its meaning is told below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
+        <source>Go to a field: its meaning is explained below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
         <translation>Allez dans un champ : son sens est expliqué en dessous, et les lignes qu’il concerne sont surlignées sur le papier. Ce qui dépasse du bord est en rouge.</translation>
     </message>
     <message>

@@ -224,7 +224,7 @@
         <translation>Vedere che cosa fa un’impostazione</translation>
     </message>
     <message>
-        <source>Go to a field: its meaning is told below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
+        <source>Go to a field: its meaning is explained below, and the rows that it concerns are marked on the paper. What runs over the edge is red.</source>
         <translation>Vai su un campo: sotto è spiegato il suo significato e sulla carta sono evidenziate le righe che riguarda. Ciò che esce dal bordo è rosso.</translation>
     </message>
     <message>

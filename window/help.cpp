@@ -46,10 +46,11 @@ QString helpText(QWidget &window)
                      Help::tr("Choose a document on the left. Its settings are in the middle, its paper is "
                               "on the right, "
                               "printed by the real program. Every change shows there at once.")) +
-           paragraph(Help::tr("See what a setting does"),
-                     Help::tr("Go to a field: its meaning is told below, and the rows that it concerns are "
-                              "marked on the "
-                              "paper. What runs over the edge is red.")) +
+           paragraph(
+               Help::tr("See what a setting does"),
+               Help::tr("Go to a field: its meaning is explained below, and the rows that it concerns are "
+                        "marked on the "
+                        "paper. What runs over the edge is red.")) +
            paragraph(Help::tr("Nothing is lost"), Help::tr("Nothing is written before you save. Undo takes "
                                                            "back every step, and the file as it was stays "
                                                            "beside the new one.")) +

@@ -87,6 +87,7 @@ void PaperPane::addTools()
         bar->addWidget(button);
     };
     addButton(u"zoom-out"_s, u"zoomOut"_s, [this] { view->zoomBy(-1); });
+    zoomLabel->setObjectName(u"zoom"_s);
     zoomLabel->setAlignment(Qt::AlignCenter);
     zoomLabel->setMinimumWidth(zoomLabel->fontMetrics().horizontalAdvance(u"400 %"_s));
     bar->addWidget(zoomLabel);

@@ -68,6 +68,7 @@ void PaperView::showStrips(std::vector<Strip> newStrips)
     message.clear();
     setAccessibleDescription(textOf(shown));
     layOut();
+    Q_EMIT zoomChanged(); // paper of another width fits otherwise
 }
 
 void PaperView::showMessage(const QString &text)

@@ -177,7 +177,7 @@ private Q_SLOTS:
     void everyFileIsInItsPackage()
     {
         QFETCH(QString, package);
-        static const QRegularExpression many(u"/(examples|gallery|translations)/"_s);
+        static const QRegularExpression many(u"/(examples|gallery|settings|translations)/"_s);
         QTEST(files(package, many), "expected");
     }
 
@@ -187,6 +187,7 @@ private Q_SLOTS:
         QCOMPARE(all.filter(u"usr/share/doc/palvestrin-print/examples/jobs/print"_s).size(), qsizetype(13));
         QVERIFY(all.contains(u"usr/share/doc/palvestrin-print/translations/movement-types.txt"_s));
         QVERIFY(all.contains(u"usr/share/doc/palvestrin-print/docs/gallery/printReport.png"_s));
+        QVERIFY(all.contains(u"usr/share/doc/palvestrin-print/docs/settings/kitchen-ticket.png"_s));
         QVERIFY(
             all.contains(u"usr/share/doc/palvestrin-print/examples/home/.palvestrin/conf/palvestrin.conf"_s));
         for (const QString &language :

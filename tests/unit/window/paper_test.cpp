@@ -15,6 +15,8 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QLabel>
+#include <QLabel>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
@@ -295,6 +297,21 @@ private Q_SLOTS:
         QTRY_VERIFY(!task.isRunning() && printed.size() > 0);
         QCOMPARE(printed.size(), 1);
         QVERIFY(printed.first().first().toByteArray().contains("\"" + QByteArray(38, ' ') + "1"));
+    }
+
+    void theZoomIsThatOfThePaperThatIsShown()
+    {
+        const ScratchFolder folder;
+        SettingsWindow window(folder.write(u"c.conf"_s, kitchenConfiguration));
+        showReady(window);
+        const auto shown = [&window] { return window.paperPane().findChild<QLabel *>(u"zoom"_s)->text(); };
+        window.jumpTo(u"palvestrin.fiscaldoc.copyNumber"_s);
+        QVERIFY(waitForPaper(window));
+        const QString ofRegister = shown();
+        window.jumpTo(u"palvestrin.doc.copyNumber"_s);
+        QVERIFY(waitForPaper(window));
+        QVERIFY(shown() != ofRegister);
+        QCOMPARE(shown(), u"%1%"_s.arg(window.paperPane().paper().zoom()));
     }
 
     void zoomHasLimits()
