@@ -64,5 +64,6 @@ inline constexpr std::array exitCodeMeanings{
                     QLatin1StringView("It is not printed yet; the print server keeps it.")},
     ExitCodeMeaning{ExitCode::Unknown,
                     QLatin1StringView("Nobody knows whether it is on paper; mostly it is held.")},
-    ExitCodeMeaning{ExitCode::PrintFailed, QLatin1StringView("The print server does not take it, or gave it up.")},
+    ExitCodeMeaning{ExitCode::PrintFailed,
+                    QLatin1StringView("The print server does not take it, or gave it up.")},
 };
