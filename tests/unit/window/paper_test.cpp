@@ -16,7 +16,6 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLabel>
-#include <QLabel>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
