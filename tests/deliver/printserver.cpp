@@ -147,10 +147,10 @@ void PrintServer::writeConfiguration() const
                                        rights);
 }
 
-void PrintServer::start(Cache cache)
+void PrintServer::start(Spool spool)
 {
-    if (cache == Cache::Removed)
-        QFile::remove(scratch.path(u"cache/job.cache"_s));
+    if (spool == Spool::Tidied)
+        run(QStringLiteral(TIDY), {scratch.path(u"spool"_s), scratch.path(u"cache"_s)});
     server = std::make_unique<QProcess>();
     server->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     server->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });

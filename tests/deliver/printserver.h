@@ -42,9 +42,9 @@ public:
     PrintServer(const PrintServer &) = delete;
     PrintServer &operator=(const PrintServer &) = delete;
 
-    /// Without the cache of its jobs, as the package has it start; or as others may start it.
-    enum class Cache { Removed, Kept };
-    void start(Cache cache = Cache::Removed);
+    /// With its spool put right, as the package has it start; or as others may start it.
+    enum class Spool { Tidied, AsItIs };
+    void start(Spool spool = Spool::Tidied);
     /// In order, as when the machine is shut down.
     void stop();
     /// As a power cut would.

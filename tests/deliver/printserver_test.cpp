@@ -478,7 +478,7 @@ private Q_SLOTS:
         server.kill();
         QVERIFY(QFile::remove(server.folder() + u"/spool/c%1"_s.arg(gone, 5, 10, QChar(u'0'))));
         const qsizetype started = server.logOf(job).count("Started backend");
-        server.start(PrintServer::Cache::Kept);
+        server.start(PrintServer::Spool::AsItIs);
         QVERIFY(server.errorLog().contains("Files have gone away"));
         printer.habit("refuse off");
         QTRY_VERIFY_WITH_TIMEOUT(server.job(job).sheets == 1, 30'000);
@@ -487,6 +487,43 @@ private Q_SLOTS:
         QVERIFY(isWhole(printer, 38));
         server.kill();
         server.start(); // with each job once
+    }
+
+    /// It was killed while it wrote what it knows of a job, and takes what is left over for one more job.
+    void leftoversInTheSpoolAreNoJobs_data()
+    {
+        QTest::addColumn<QStringList>(
+            "kept"); // of the versions of the job's file, each with the same content
+        QTest::addColumn<QStringList>("torn"); // these are empty
+        QTest::newRow("new version, half written") << QStringList{u""_s} << QStringList{u".N"_s};
+        QTest::newRow("new version, written") << QStringList{u""_s, u".N"_s} << QStringList{};
+        QTest::newRow("last version put aside") << QStringList{u".O"_s} << QStringList{u".N"_s};
+        QTest::newRow("last version still there") << QStringList{u""_s, u".O"_s} << QStringList{};
+        QTest::newRow("only the new one") << QStringList{u".N"_s} << QStringList{};
+    }
+    void leftoversInTheSpoolAreNoJobs()
+    {
+        QFETCH(QStringList, kept);
+        QFETCH(QStringList, torn);
+        PrinterProcess printer;
+        printer.habit("refuse on");
+        const QString queue = queueFor(printer);
+        const int job = server.submit(queue, ticket(39));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("offline-report"), 10'000);
+        server.kill();
+        const QString file = server.folder() + u"/spool/c%1"_s.arg(job, 5, 10, QChar(u'0'));
+        QVERIFY(QFile::rename(file, file + u".tmp"_s));
+        for (const QString &ending : kept)
+            QVERIFY(QFile::copy(file + u".tmp"_s, file + ending));
+        for (const QString &ending : torn)
+            QVERIFY(QFile(file + ending).open(QIODevice::WriteOnly));
+        QVERIFY(QFile::remove(file + u".tmp"_s));
+        server.start();
+        QCOMPARE(server.run(u"lpstat"_s, {u"-o"_s, queue}).count('\n'), qsizetype(1));
+        printer.habit("refuse off");
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}, 30).sheets, 1);
+        QVERIFY(isWhole(printer, 39));
+        acquaint(queue); // it goes on
     }
 
     /// Jobs that were printed some other way are nobody's doubt, though no sheet was counted.

@@ -163,6 +163,7 @@ private Q_SLOTS:
         QTest::newRow("cups") << u"palvestrin-cups"_s
                               << QStringList{u"usr/lib/cups/backend/palvestrin"_s,
                                              u"usr/lib/systemd/system/cups.service.d/palvestrin.conf"_s,
+                                             u"usr/libexec/palvestrin/tidy-print-spool"_s,
                                              u"usr/share/cups/mime/palvestrin.convs"_s,
                                              u"usr/share/cups/mime/palvestrin.types"_s,
                                              u"usr/share/doc/palvestrin-cups -> palvestrin-print"_s,
@@ -206,7 +207,7 @@ private Q_SLOTS:
             QVERIFY(!lines.isEmpty());
             for (const QString &line : lines) {
                 static const QRegularExpression right(
-                    u"^(drwxr-xr-x root/root .*/|-rwxr-xr-x root/root usr/bin/.*[^/]|"
+                    u"^(drwxr-xr-x root/root .*/|-rwxr-xr-x root/root usr/(bin|libexec)/.*[^/]|"
                     u"-rwxr--r-- root/root usr/lib/cups/backend/palvestrin|"
                     u"-rw-r--r-- root/root usr/(share|lib/systemd)/.*[^/]|lrwxrwxrwx root/root .* -> .*)$"_s);
                 QVERIFY2(line.contains(right) || line == "drwxr-xr-x root/root "_L1, qPrintable(line));
