@@ -125,7 +125,7 @@ int Run::print()
 {
     if (!record->isKept()) {
         report.error("Not printed: the folder " + folder +
-                     " cannot be written. Mend that, then enable the printer.");
+                     " cannot be written, or others can change it. Mend that, then enable the printer.");
         return CUPS_BACKEND_STOP;
     }
     const Task what = task();

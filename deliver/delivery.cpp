@@ -22,6 +22,14 @@ std::string seconds(Clock::duration duration)
     return std::to_string(std::chrono::duration_cast<std::chrono::seconds>(duration).count()) + " seconds";
 }
 
+std::string busyWith(pid_t stranger)
+{
+    if (stranger == 0)
+        return "The printer is busy with another ticket; this one waits for it.";
+    return "Not printed yet: process " + std::to_string(stranger) +
+           " of another user keeps the printer; look what it is, and end it.";
+}
+
 } // namespace
 
 Delivery::Delivery(const DeviceAddress &where, const Ticket &what, const Surroundings &surroundings)
@@ -57,8 +65,8 @@ Delivery::End Delivery::takePrinter()
 {
     lock.emplace(printer);
     while (!lock->tryTake()) {
-        around.report.waiting("The printer is busy with another ticket; this one waits for it.");
         const int holder = lock->waiter();
+        around.report.waiting(busyWith(lock->stranger()));
         if (channel.waitFor(holder, POLLIN, Clock::now() + (holder < 0 ? 20ms : 60'000ms)) == Event::Stopped)
             return Outcome::Stopped;
     }

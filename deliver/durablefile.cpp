@@ -5,9 +5,28 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace {
+
+std::string parentOf(const std::string &path)
+{
+    return path.substr(0, path.rfind('/'));
+}
+
+/// Whether it is a folder that nobody else can change.
+bool isOwn(const std::string &path)
+{
+    struct stat folder;
+    return lstat(path.c_str(), &folder) == 0 && S_ISDIR(folder.st_mode) && folder.st_uid == geteuid() &&
+           (folder.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+}
+
+} // namespace
+
 bool makeFolder(const std::string &path)
 {
-    return mkdir(path.c_str(), 0700) == 0 || errno == EEXIST;
+    if (mkdir(path.c_str(), 0700) == 0)
+        return syncFolder(parentOf(path));
+    return errno == EEXIST && isOwn(path);
 }
 
 bool syncFolder(const std::string &path)

@@ -3,7 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// Makes the folder, for the owner alone, unless it is there.
+/// Makes the folder, for the owner alone, unless it is there. False when that fails, and when it is a link or
+/// others can change it.
 bool makeFolder(const std::string &path);
 /// Waits until the names in the folder are on the disk.
 bool syncFolder(const std::string &path);

@@ -22,7 +22,8 @@ struct StateWord
     time_t keptFor; ///< seconds
 };
 
-constexpr time_t day = 24 * 60 * 60;
+constexpr time_t hour = 60 * 60; // seconds
+constexpr time_t day = 24 * hour;
 
 constexpr StateWord stateWords[] = {
     {JobRecord::State::New, "new", 60 * day},
@@ -126,18 +127,36 @@ bool makeRecordFolder(const std::string &folder)
     return descriptor >= 0;
 }
 
+/// Whether nobody has looked for old records for an hour, for a shop has thousands of them; notes that
+/// somebody does so now.
+bool isSweepDue(const std::string &folder)
+{
+    const std::string path = folder + "/swept";
+    struct stat last;
+    if (lstat(path.c_str(), &last) == 0 && std::abs(time(nullptr) - last.st_mtime) < hour)
+        return false;
+    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (descriptor < 0)
+        return false;
+    futimens(descriptor, nullptr); // now
+    close(descriptor);
+    return true;
+}
+
 } // namespace
 
 JobRecord::JobRecord(const std::string &folder, std::string_view uuid, std::string thisScheduler)
     : isSound(makeRecordFolder(folder)), scheduler(std::move(thisScheduler))
 {
+    if (!isSound)
+        return;
     const std::string path = folder + '/' + fileName(uuid);
     do {
         if (descriptor >= 0)
             close(descriptor);
         descriptor = openLocked(path);
     } while (descriptor >= 0 && !isStillThere(descriptor, path));
-    isSound = isSound && descriptor >= 0 && syncFolder(folder);
+    isSound = descriptor >= 0 && syncFolder(folder);
     if (isSound)
         read();
 }
@@ -159,11 +178,11 @@ void JobRecord::read()
 
 bool JobRecord::set(State state)
 {
+    if (descriptor >= 0 && !rewriteDurably(descriptor, recordText(state, scheduler)))
+        return false;
     known = state;
     ofThisScheduler = true;
-    if (descriptor < 0)
-        return isSound;
-    return rewriteDurably(descriptor, recordText(state, scheduler));
+    return isSound;
 }
 
 std::string identityOf(pid_t process)
@@ -205,6 +224,8 @@ time_t recordsKeptSince(const std::string &folder)
 
 void removeOldRecords(const std::string &folder)
 {
+    if (!isSweepDue(folder))
+        return;
     DIR *const names = opendir(folder.c_str());
     if (!names)
         return;

@@ -63,5 +63,5 @@ std::string identityOf(pid_t process);
 void doubtFreeRecord(const std::string &folder, std::string_view uuid, const std::function<void()> &then);
 /// Since when records have been kept in the folder; now when none are.
 time_t recordsKeptSince(const std::string &folder);
-/// Removes records that nobody needs any more.
+/// Removes records that nobody needs any more, once an hour.
 void removeOldRecords(const std::string &folder);

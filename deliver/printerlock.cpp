@@ -62,6 +62,15 @@ int PrinterLock::waiter()
     return waiting;
 }
 
+/// The names of sockets are everybody's.
+pid_t PrinterLock::stranger() const
+{
+    ucred holder{};
+    socklen_t length = sizeof holder;
+    const bool isKnown = waiting >= 0 && getsockopt(waiting, SOL_SOCKET, SO_PEERCRED, &holder, &length) == 0;
+    return isKnown && holder.uid != geteuid() ? holder.pid : 0;
+}
+
 void PrinterLock::stopWaiting()
 {
     if (waiting >= 0)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <sys/types.h>
 
 /// One job at a time for each printer, across the queues and processes of this machine.
 ///
@@ -19,6 +20,8 @@ public:
     bool tryTake();
     /// A descriptor to poll: it ends when the lock may be free. -1 when that must be tried later.
     int waiter();
+    /// The process of another user that has the lock; 0 when it is one of this user's, or cannot be told.
+    pid_t stranger() const;
 
 private:
     void stopWaiting();

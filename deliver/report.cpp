@@ -1,5 +1,6 @@
 #include "report.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <unistd.h>
 
@@ -10,6 +11,14 @@ std::string shownReasons()
 {
     const char *reasons = std::getenv("PRINTER_STATE_REASONS");
     return ',' + std::string(reasons ? reasons : "") + ',';
+}
+
+/// A title may hold anything; a line of the report ends where it does, and says nothing else.
+std::string withoutControls(std::string text)
+{
+    std::ranges::replace_if(
+        text, [](unsigned char character) { return character < ' ' || character == 0x7F; }, ' ');
+    return text;
 }
 
 } // namespace
@@ -72,6 +81,6 @@ void Report::message(const char *level, const std::string &sentence)
 /// In one piece, so that lines of several processes never mix. Whether anybody reads it changes nothing.
 void Report::line(const std::string &text)
 {
-    const std::string whole = text + '\n';
+    const std::string whole = withoutControls(text) + '\n';
     [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, whole.data(), whole.size());
 }

@@ -5,15 +5,19 @@
 #include "printserver.h"
 #include "program.h"
 
+#include <QDateTime>
 #include <QTest>
 
 #include <algorithm>
 #include <arpa/inet.h>
 #include <csignal>
+#include <cstddef>
 #include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/socket.h>
+#include <sys/un.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -62,6 +66,24 @@ private:
             write(connection, bytes.constData(), std::size_t(bytes.size())) != bytes.size())
             qFatal("the raw client cannot print");
         close(connection);
+    }
+    /// A process of nobody's that has the name of the printer.
+    static pid_t keepPrinter(int port)
+    {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        const QByteArray path = '\0' + QByteArray("palvestrin-printer/127.0.0.1 ") + QByteArray::number(port);
+        std::ranges::copy(path, address.sun_path);
+        const auto length = socklen_t(offsetof(sockaddr_un, sun_path) + std::size_t(path.size()));
+        const pid_t process = fork();
+        if (process != 0)
+            return process;
+        const int descriptor = setuid(65534) == 0 ? socket(AF_UNIX, SOCK_STREAM, 0) : -1;
+        if (bind(descriptor, reinterpret_cast<const sockaddr *>(&address), length) != 0 ||
+            listen(descriptor, 9) != 0)
+            _exit(1);
+        for (;;)
+            pause();
     }
     /// Of the processes of the backend that run now, in KiB: what the largest of them ever took.
     int peakMemory() const
@@ -596,35 +618,6 @@ private Q_SLOTS:
         }
     }
 
-    void theDevicesAreListed()
-    {
-        const ProgramRun run = runProgram(QStringLiteral(BACKEND), {}, {});
-        QVERIFY2(run.failure.isEmpty(), run.standardError);
-        QVERIFY2(run.standardOutput.startsWith(
-                     "network palvestrin \"Unknown\" \"Receipt printer that confirms what it "
-                     "printed\""),
-                 run.standardOutput);
-    }
-
-    /// As a person may run it: without a scheduler.
-    void byHand()
-    {
-        PrinterProcess printer;
-        const ScratchFolder files;
-        const QStringList words{u"7"_s, u"user"_s, u"title"_s,
-                                u"2"_s, QString(), files.write(u"t"_s, ticket(44))};
-        const ProgramRun run = runProgram(QStringLiteral(BACKEND), words,
-                                          {u"DEVICE_URI="_s + QString::fromUtf8(printer.uri("wait=2"))});
-        QCOMPARE(run.exitStatus, 0);
-        QVERIFY2(run.standardError.contains("PAGE: total 1\nINFO: Printed: the printer confirmed it.\n"),
-                 run.standardError);
-        QCOMPARE(printer.count(lastRow(44)), 2);
-        QCOMPARE(
-            runProgram(QStringLiteral(BACKEND), words, {u"DEVICE_URI=palvestrin:/etc/passwd"_s}).exitStatus,
-            4);
-        QCOMPARE(runProgram(QStringLiteral(BACKEND), {u"7"_s}, {}).exitStatus, 1);
-    }
-
     /// A device that answers nothing: the other end of a terminal.
     void aSerialLine()
     {
@@ -648,9 +641,21 @@ private Q_SLOTS:
         close(line);
     }
 
-    /// Nobody is left to hear its exit code, so it asks the server to hold the job.
+    /// Nobody is left to hear its exit code, so it has the job held while it prints, and released when it is
+    /// printed.
+    void aBackendWithoutItsGuardTellsTheServerItself_data()
+    {
+        QTest::addColumn<QByteArray>("cure");
+        QTest::addColumn<int>("end");
+        QTest::addColumn<int>("copies"); // whole ones
+        QTest::newRow("printed") << QByteArray("paper 100000") << int(JobInfo::Completed) << 1;
+        QTest::newRow("unknown") << QByteArray("vanish on") << int(JobInfo::Held) << 0;
+    }
     void aBackendWithoutItsGuardTellsTheServerItself()
     {
+        QFETCH(QByteArray, cure);
+        QFETCH(int, end);
+        QFETCH(int, copies);
         PrinterProcess printer;
         const QString queue = queueFor(printer);
         acquaint(queue);
@@ -661,6 +666,81 @@ private Q_SLOTS:
         QCOMPARE(both.size(), qsizetype(2));
         ::kill(pid_t(std::ranges::min(both)), SIGKILL);
         QCOMPARE(server.awaitState(job, {JobInfo::Completed, JobInfo::Held}).state, int(JobInfo::Held));
+        printer.habit(cure);
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 15'000);
+        QTRY_COMPARE_WITH_TIMEOUT(server.job(job).state, end, 10'000);
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 10'000); // nothing is begun again
+        QCOMPARE(server.job(job).state, end);
+        QCOMPARE(printer.count(firstRow(40)), 1);
+        QCOMPARE(printer.count(lastRow(40)), copies);
+    }
+
+    /// The other printers of a class are no way out of a doubt.
+    void aDoubtInAClassIsNotPrintedElsewhere()
+    {
+        PrinterProcess first;
+        PrinterProcess second;
+        for (const PrinterProcess *printer : {&first, &second}) {
+            acquaint(queueFor(*printer));
+            server.run(u"lpadmin"_s, {u"-p"_s, u"queue%1"_s.arg(printer->port()), u"-c"_s, u"either"_s});
+        }
+        for (const QString &command : {u"cupsenable"_s, u"cupsaccept"_s})
+            server.run(command, {u"either"_s});
+        for (PrinterProcess *printer : {&first, &second})
+            printer->habit("reset 40");
+        const int job = server.submit(u"either"_s, ticket(41));
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed, JobInfo::Held}).state, int(JobInfo::Held));
+        QVERIFY(server.job(job).message.startsWith("It is unknown whether"));
+        QCOMPARE(first.count(firstRow(41)) + second.count(firstRow(41)), 1);
+        server.run(u"lpadmin"_s, {u"-x"_s, u"either"_s});
+    }
+
+    /// The names that keep tickets apart are everybody's, so it is said who has one.
+    void somebodyElseKeepsThePrinter()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        const pid_t stranger = keepPrinter(printer.port());
+        const int job = server.submit(queue, ticket(42));
+        QTRY_COMPARE_WITH_TIMEOUT(server.job(job).message,
+                                  "Not printed yet: process " + QByteArray::number(stranger) +
+                                      " of another user keeps the printer; look what it is, and end it.",
+                                  10'000);
+        ::kill(stranger, SIGKILL);
+        QCOMPARE(waitpid(stranger, nullptr, 0), stranger);
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+    }
+
+    /// Once an hour: a shop has thousands of them.
+    void oldRecordsAreRemoved()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        const QString folder = server.folder() + u"/cache/palvestrin/"_s;
+        const auto makeOld = [](const QString &path, int days) {
+            QFile file(path);
+            return file.open(QIODevice::ReadWrite) &&
+                   file.setFileTime(QDateTime::currentDateTime().addDays(-days),
+                                    QFileDevice::FileModificationTime);
+        };
+        const QString old = folder + u"old.job"_s;
+        const QString young = folder + u"young.job"_s;
+        const auto writeBoth = [&] {
+            for (const QString &path : {old, young}) {
+                QFile file(path);
+                QVERIFY(file.open(QIODevice::WriteOnly) && file.write("printed 1 - \n") > 0);
+            }
+            QVERIFY(makeOld(old, 3) && makeOld(young, 1));
+        };
+        writeBoth();
+        acquaint(queue);
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 10'000);
+        QVERIFY(QFile::exists(old));
+        QVERIFY(makeOld(folder + u"swept"_s, 1));
+        acquaint(queue);
+        QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(old), 10'000);
+        QVERIFY(QFile::exists(young));
     }
 };
 
