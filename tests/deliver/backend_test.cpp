@@ -57,9 +57,11 @@ private Q_SLOTS:
     {
         QStringList words = wordsFor(ticket(3));
         words.prepend(QStringLiteral(BACKEND));
-        const ProgramRun outcome =
-            runProgram(u"sh"_s, QStringList{u"-c"_s, u"exec \"$1\" \"$2\" \"$3\" \"$4\" \"$5\" \"$6\" <\"$7\""_s, u"sh"_s} + words,
-                       {device(), u"TMPDIR="_s + files.path()});
+        const ProgramRun outcome = runProgram(
+            u"sh"_s,
+            QStringList{u"-c"_s, u"exec \"$1\" \"$2\" \"$3\" \"$4\" \"$5\" \"$6\" <\"$7\""_s, u"sh"_s} +
+                words,
+            {device(), u"TMPDIR="_s + files.path()});
         QVERIFY2(outcome.failure.isEmpty(), outcome.standardError);
         QCOMPARE(printer.count(lastRow(3)), 1);
     }
@@ -68,7 +70,8 @@ private Q_SLOTS:
     {
         const ProgramRun outcome = run(wordsFor({}), {device()});
         QCOMPARE(outcome.exitStatus, 0);
-        QCOMPARE(outcome.standardError, QByteArray("WARNING: The job is empty: there was nothing to print.\n"));
+        QCOMPARE(outcome.standardError,
+                 QByteArray("WARNING: The job is empty: there was nothing to print.\n"));
     }
 
     /// A title is one line of the report, whatever is in it.
@@ -102,7 +105,8 @@ private Q_SLOTS:
         const ProgramRun outcome =
             run(wordsFor(ticket(5)), {device(), u"CUPS_CACHEDIR="_s + place.path(u"cache"_s)});
         QCOMPARE(outcome.exitStatus, 4);
-        QCOMPARE(outcome.standardError, "ERROR: Not printed: the folder " + place.path(u"cache/palvestrin"_s).toUtf8() +
+        QCOMPARE(outcome.standardError, "ERROR: Not printed: the folder " +
+                                            place.path(u"cache/palvestrin"_s).toUtf8() +
                                             " cannot be written, or others can change it. Mend that, then "
                                             "enable the printer.\n");
         QCOMPARE(printer.count(firstRow(5)), 0);

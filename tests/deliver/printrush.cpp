@@ -1,15 +1,19 @@
-// printrush: milliseconds from ticket to paper, with CUPS's own socket backend and with this one: the median
-// of single tickets, and of a rush of 200 to four printers the time of one.
+// printrush: milliseconds from ticket to paper, with this backend and with CUPS's own socket backend: the
+// median of single tickets, and of a rush of 200 to four printers the time of one. Then the KiB that a
+// process of this backend takes at most in the first half of a rush, and in the second.
 
 #include "printerprocess.h"
 #include "printserver.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QTest>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <functional>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -19,6 +23,7 @@ namespace {
 constexpr int printerCount = 4;
 constexpr int singleTickets = 31;
 constexpr int rushTickets = 200;
+constexpr int patience = 120; ///< seconds for one ticket
 
 class Shop
 {
@@ -48,12 +53,21 @@ public:
     {
         QElapsedTimer timer;
         timer.start();
-        const int first = number;
-        for (; number < first + rushTickets; ++number)
-            server.submit(queue(number % printerCount), ticket(number));
-        for (int each = first; each < number; ++each)
+        for (const int each : submitRush())
             await(each % printerCount, each);
         return double(timer.nsecsElapsed()) / 1e6 / rushTickets;
+    }
+    /// In KiB, by the halves of a rush.
+    std::array<int, 2> peaks()
+    {
+        std::array<int, 2> most{};
+        const int first = number;
+        for (const int each : submitRush([&] {
+                 int &peak = most[number - first < rushTickets / 2 ? 0 : 1];
+                 peak = std::max(peak, server.peakOfBackends());
+             }))
+            await(each % printerCount, each);
+        return most;
     }
 
 private:
@@ -63,10 +77,25 @@ private:
         server.submit(queue(place), ticket(ticketNumber));
         await(place, ticketNumber);
     }
+    /// Calls `meanwhile` for each ticket.
+    std::vector<int> submitRush(const std::function<void()> &meanwhile = [] {})
+    {
+        std::vector<int> tickets;
+        for (int count = 0; count < rushTickets; ++count, ++number) {
+            server.submit(queue(number % printerCount), ticket(number));
+            tickets.push_back(number);
+            meanwhile();
+        }
+        return tickets;
+    }
     void await(int place, int ticketNumber) const
     {
-        while (printers[place].count(lastRow(ticketNumber)) == 0)
+        const QDeadlineTimer deadline(std::chrono::seconds{patience});
+        while (printers[place].count(lastRow(ticketNumber)) == 0) {
+            if (deadline.hasExpired())
+                qFatal("ticket %d is not on paper after %d seconds", ticketNumber, patience);
             QTest::qSleep(1);
+        }
     }
 
     const QByteArray scheme;
@@ -86,6 +115,8 @@ int main(int argc, char **argv)
     const double ourSingle = ours.single();
     const double theirRush = theirs.rush();
     const double ourRush = ours.rush();
-    std::printf("%.2f %.2f %.2f %.2f\n", ourSingle, theirSingle, ourRush, theirRush);
+    const std::array<int, 2> peaks = ours.peaks();
+    std::printf("%.2f %.2f %.2f %.2f %d %d\n", ourSingle, theirSingle, ourRush, theirRush, peaks[0],
+                peaks[1]);
     return 0;
 }

@@ -263,3 +263,16 @@ QList<qint64> PrintServer::backends() const
     }
     return numbers;
 }
+
+int PrintServer::peakOfBackends() const
+{
+    int most = 0;
+    for (const qint64 process : backends()) {
+        QFile status(u"/proc/%1/status"_s.arg(process));
+        if (!status.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArrayList words = status.readAll().simplified().split(' ');
+        most = std::max(most, words.value(words.indexOf("VmHWM:") + 1).toInt());
+    }
+    return most;
+}

@@ -74,6 +74,8 @@ public:
     QByteArray logOf(int job) const;
     /// The numbers of the processes of the backend that run now.
     QList<qint64> backends() const;
+    /// What the largest of them ever took, in KiB.
+    int peakOfBackends() const;
 
 private:
     void linkFiles() const;

@@ -85,19 +85,6 @@ private:
         for (;;)
             pause();
     }
-    /// Of the processes of the backend that run now, in KiB: what the largest of them ever took.
-    int peakMemory() const
-    {
-        int most = 0;
-        for (const qint64 process : server.backends()) {
-            QFile status(u"/proc/%1/status"_s.arg(process));
-            if (!status.open(QIODevice::ReadOnly))
-                continue;
-            const QByteArrayList words = status.readAll().simplified().split(' ');
-            most = std::max(most, words.value(words.indexOf("VmHWM:") + 1).toInt());
-        }
-        return most;
-    }
     static bool isWhole(const PrinterProcess &printer, int ticket)
     {
         return printer.count(firstRow(ticket)) == 1 && printer.count(lastRow(ticket)) == 1;
@@ -197,13 +184,14 @@ private Q_SLOTS:
         printer.habit("paper 3");
         const int brief = server.submit(queue, ticket(36));
         QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
-        const int usualMemory = peakMemory();
+        const int usualMemory = server.peakOfBackends();
         printer.habit("paper 500");
         QCOMPARE(server.awaitState(brief, {JobInfo::Completed}).sheets, 1);
         constexpr int rows = 30'000;
         const int job = server.submit(queue, ticket(18, rows));
         QTRY_VERIFY_WITH_TIMEOUT(server.job(job).message.contains("takes nothing more at present"), 20'000);
-        QVERIFY2(peakMemory() < usualMemory + longTicketMemory, qPrintable(QString::number(peakMemory())));
+        QVERIFY2(server.peakOfBackends() < usualMemory + longTicketMemory,
+                 qPrintable(QString::number(server.peakOfBackends())));
         printer.habit("paper 1000000");
         QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
         QVERIFY(isWhole(printer, 18));
