@@ -11,8 +11,10 @@
 #include <QElapsedTimer>
 #include <QHash>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
 #include <csignal>
 #include <deque>
 #include <map>
@@ -41,6 +43,15 @@ constexpr Fault faults[] = {
     {"late 400", "late 0"},      {"vanish on", nullptr},
 };
 
+/// A job whose paper says the same as `ticket`.
+QByteArray kitchenTicket(int number)
+{
+    return u"<job><method name=\"printPartialOrder\"/><geometry/><headers/>"
+           "<receipe number=\"1\" name=\"%1\"/><receipe number=\"1\" name=\"%2\"/></job>"_s
+               .arg(firstRow(number), lastRow(number))
+               .toUtf8();
+}
+
 } // namespace
 
 class Storm
@@ -48,6 +59,9 @@ class Storm
 public:
     explicit Storm(quint32 seed) : random(seed)
     {
+        QDir(home.path()).mkpath(u".palvestrin/conf"_s);
+        QFile::copy(QStringLiteral(EXAMPLES "/home/.palvestrin/conf/palvestrin.conf"),
+                    home.path(u".palvestrin/conf/palvestrin.conf"_s));
         for (int place = 0; place < printerCount; ++place)
             server.addQueue(
                 queue(place), printers[std::size_t(place)].uri("wait=3"),
@@ -71,6 +85,7 @@ private:
     {
         std::unique_ptr<QProcess> process;
         int ticket;
+        bool isOurs; ///< `palvestrin print`, which tells how it ended
     };
 
     static QString queue(int printer) { return u"till%1"_s.arg(printer); }
@@ -85,6 +100,12 @@ private:
     void readRolls();
     int copies(const QString &row) const { return rows.value(row); }
     QString faultOf(int ticket, int job) const;
+    /// By `palvestrin print`, while the storm raged.
+    bool wasToldPrinted(int ticket) const
+    {
+        const auto place = told.find(ticket);
+        return place != told.end() && place->second == 0;
+    }
 
     QRandomGenerator random;
     PrintServer server;
@@ -94,7 +115,9 @@ private:
     std::vector<std::pair<int, const Fault *>> present; ///< faults by printer
     std::map<int, int> jobs;                            ///< by ticket; those that the server took
     QHash<QString, int> rows;                           ///< on the rolls, and how often
+    std::map<int, int> told;                            ///< exit codes by ticket
     const ScratchFolder files;
+    const ScratchFolder home;
     int submitted = 0;
     int killed[3] = {};
     int released = 0;
@@ -104,11 +127,19 @@ private:
 void Storm::startClient()
 {
     const int number = submitted++;
+    const QString printer = queue(chance(printerCount));
+    const bool isOurs = chance(12) == 0; // most of them do not wait for the paper
     auto process = std::make_unique<QProcess>();
-    const QString file = files.write(u"%1"_s.arg(number), ticket(number));
-    process->setEnvironment(server.environment());
-    process->start(u"lp"_s, {u"-d"_s, queue(chance(printerCount)), u"-t"_s, u"%1"_s.arg(number), file});
-    clients.push_back({std::move(process), number});
+    if (isOurs) {
+        process->setEnvironment(server.environment() + QStringList{u"HOME="_s + home.path()});
+        process->start(QStringLiteral(PALVESTRIN_PROGRAM),
+                       {u"print"_s, u"--queue"_s, printer, u"--device"_s, u"escpos"_s, u"--wait"_s, u"2"_s,
+                        files.write(u"%1.xml"_s.arg(number), kitchenTicket(number))});
+    } else {
+        process->setEnvironment(server.environment());
+        process->start(u"lp"_s, {u"-d"_s, printer, files.write(u"%1"_s.arg(number), ticket(number))});
+    }
+    clients.push_back({std::move(process), number, isOurs});
 }
 
 /// The ticket of a client that says no number was not taken, and its user knows.
@@ -116,9 +147,13 @@ void Storm::reapClients()
 {
     while (!clients.empty() && (clients.front().process->state() == QProcess::NotRunning ||
                                 clients.front().process->waitForFinished(5))) {
-        const QByteArray answer = clients.front().process->readAllStandardOutput().split(' ').value(3);
-        if (answer.contains('-'))
-            jobs[clients.front().ticket] = answer.mid(answer.lastIndexOf('-') + 1).toInt();
+        const Client &client = clients.front();
+        const QString answer = QString::fromUtf8(client.process->readAllStandardOutput());
+        static const QRegularExpression number(u"(?:request id is till\\d-|: job )(\\d+) "_s);
+        if (const QRegularExpressionMatch match = number.match(answer); match.hasMatch())
+            jobs[client.ticket] = match.captured(1).toInt();
+        if (client.isOurs && client.process->exitStatus() == QProcess::NormalExit)
+            told[client.ticket] = client.process->exitCode();
         clients.pop_front();
     }
 }
@@ -213,9 +248,10 @@ bool Storm::isOver(const JobInfo &info)
 void Storm::readRolls()
 {
     rows.clear();
+    static const QRegularExpression mark(u"(ticket|end) \\d+(?=\\s*$)"_s);
     for (const PrinterProcess &printer : printers) {
         for (const QString &row : printer.roll())
-            ++rows[row];
+            ++rows[mark.match(row).captured()];
     }
 }
 
@@ -228,7 +264,8 @@ QString Storm::faultOf(int number, int job) const
     const bool isReported = info.state == JobInfo::Held || info.state == JobInfo::Aborted;
     const bool isTrue =
         job == 0 || isReported || (isOver(info) && ended == 1); // without a number nobody was told
-    if (isTrue && begun <= 1 && ended <= 1)
+    const bool isKept = !wasToldPrinted(number) || ended == 1;
+    if (isTrue && isKept && begun <= 1 && ended <= 1)
         return {};
     return u"ticket %1, job %2: begun %3 times, ended %4 times, state %5, sheets %6\n%7"_s.arg(number)
         .arg(job)
@@ -288,8 +325,12 @@ QString Storm::verdictOfPerson()
 QString Storm::summary() const
 {
     const QString queues = QString::fromUtf8(server.run(u"lpstat"_s, {u"-p"_s})).simplified();
-    return queues + u"; %1 tickets taken, %2 held as unknown, %3 released; killed: %4 servers, %5 clients, "
-                    u"%6 backends"_s.arg(jobs.size())
+    const auto waited =
+        std::ranges::count_if(told, [this](const auto &each) { return wasToldPrinted(each.first); });
+    return queues + u"; %1 tickets taken, %2 of them told to be printed, %3 held as unknown, %4 released; "
+                    u"killed: %5 servers, %6 clients, "
+                    u"%7 backends"_s.arg(jobs.size())
+                        .arg(waited)
                         .arg(unknown)
                         .arg(released)
                         .arg(killed[0])
