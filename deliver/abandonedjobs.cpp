@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr time_t longAgo = 12 * 60 * 60; // seconds; nobody waits for an older ticket
+constexpr time_t longAgo = 24 * 60 * 60; // seconds; the server keeps the files of a job no longer
 
 } // namespace
 

@@ -22,6 +22,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int retryPause = 2000; // milliseconds
+constexpr auto longRetryPause = 5s;
 
 std::string environment(const char *name, const char *otherwise = "")
 {
@@ -96,9 +97,10 @@ private:
         HoldTwice, ///< the same, and the scheduler would start it twice
     };
 
-    Task task() const;
-    Task taskOfReleased() const;
-    Task taskAfterEnd() const;
+    Task task();
+    Task taskOfReleased();
+    Task taskAfterEnd();
+    int retryLater(const std::string &why);
     int deliver(const Ticket &ticket, Interruptions &interrupted);
     int conclude(Delivery::Outcome outcome, const std::string &why);
     int concludeEarlier();
@@ -108,6 +110,7 @@ private:
     int concludeUnknown(const std::string &why);
     int concludeStopped();
     int afterDeath();
+    void lookAfterOthers() const;
     void handBack();
     bool begin();
     void tellUnknown(const std::string &why);
@@ -123,26 +126,21 @@ private:
 
 int Run::print()
 {
-    if (!record->isKept()) {
-        report.error("Not printed: the folder " + folder +
-                     " cannot be written, or others can change it. Mend that, then enable the printer.");
-        return CUPS_BACKEND_STOP;
-    }
+    if (!record->isKept())
+        return retryLater("the folder " + folder + " cannot be written, or others can change it");
     const Task what = task();
     if (what == Task::Conclude)
         return concludeEarlier();
     if (what == Task::Hold)
-        return concludeUnknown("the print server was interrupted while it was printed");
+        return concludeUnknown("printing it was interrupted");
     if (what == Task::HoldTwice)
         return concludeUnknown(
             "the print server was killed and lists it twice; restart it before you release the job");
     std::optional<Ticket> ticket = ticketOf(job);
-    if (!ticket) {
-        report.error("Not printed: the data of the job cannot be read, or not be kept until they are "
-                     "printed. Look for "
-                     "room on the disk of the print server, then release the job.");
-        return CUPS_BACKEND_HOLD;
-    }
+    if (!ticket)
+        return retryLater(
+            "the data of the job cannot be read, or there is no room to keep them until they are "
+            "printed");
     if (ticket->size() == 0) {
         report.warning(std::string(sentence::empty));
         record->set(JobRecord::State::Unconfirmed);
@@ -154,8 +152,17 @@ int Run::print()
                       [&] { return afterDeath(); });
 }
 
+/// For what is the matter with the machine, before anything was sent: it is over by itself, or a person mends
+/// it.
+int Run::retryLater(const std::string &why)
+{
+    report.error("Not printed yet: " + why + ". Look for room on the disk of the print server.");
+    std::this_thread::sleep_for(longRetryPause); // the scheduler starts it again at once
+    return hasStandIn ? CUPS_BACKEND_FAILED : CUPS_BACKEND_RETRY_CURRENT;
+}
+
 /// What is to be done with a job that was started before.
-Run::Task Run::task() const
+Run::Task Run::task()
 {
     using State = JobRecord::State;
     switch (record->state()) {
@@ -175,27 +182,27 @@ Run::Task Run::task() const
     return taskAfterEnd();
 }
 
-Run::Task Run::taskOfReleased() const
-{
-    const std::optional<bool> isOnce = scheduler::hasOnce(job.number);
-    if (!isOnce)
-        return Task::Hold;
-    return *isOnce ? Task::PrintCopy : Task::HoldTwice;
-}
-
-/// Somebody wants a job anew whose end was noted; where it was not, the scheduler died before it could. It
-/// notes whole seconds.
-Run::Task Run::taskAfterEnd() const
+Run::Task Run::taskOfReleased()
 {
     const std::optional<time_t> end = scheduler::endOf(job.number);
     const std::optional<bool> isOnce = scheduler::hasOnce(job.number);
     if (!end || !isOnce)
         return Task::Hold;
-    if (!*isOnce)
+    record->setEndBefore(*end);
+    return *isOnce ? Task::PrintCopy : Task::HoldTwice;
+}
+
+/// Somebody wants a job anew whose end was noted; where it was not, the scheduler died before it could.
+Run::Task Run::taskAfterEnd()
+{
+    const std::optional<time_t> end = scheduler::endOf(job.number);
+    const std::optional<bool> isOnce = scheduler::hasOnce(job.number);
+    if (!end || !isOnce)
+        return Task::Hold;
+    if (!*isOnce || *end == record->endBefore())
         return Task::Conclude;
-    if (*end == record->since())
-        return record->isOfThisScheduler() ? Task::PrintCopy : Task::Hold;
-    return *end > record->since() ? Task::PrintCopy : Task::Conclude;
+    record->setEndBefore(*end);
+    return Task::PrintCopy;
 }
 
 /// For a job that needs no printing.
@@ -209,23 +216,38 @@ int Run::concludeEarlier()
 
 int Run::deliver(const Ticket &ticket, Interruptions &interrupted)
 {
-    interrupted.onGuardGone = [this] { scheduler::hold(job.number); };
+    // A job that cannot be held is none any more: somebody removed it, guard and all.
+    interrupted.goesOnAlone = [this] {
+        return scheduler::hold(job.number) || stage.get() != Stage::NothingSent;
+    };
     const Delivery::Surroundings surroundings{report, folder, interrupted, [this] { return begin(); },
                                               hasStandIn};
     std::optional<Delivery> delivery(std::in_place, address, ticket, surroundings);
     const Delivery::Outcome outcome = delivery->run();
     const std::string why = delivery->why();
     delivery.reset(); // others have their turn
+    const bool isUnknown = outcome == Delivery::Outcome::Unknown;
+    if (isUnknown)
+        lookAfterOthers(); // first: between the word that it is held and the end nothing shall happen
     const bool isStopped = outcome == Delivery::Outcome::Stopped || interrupted.isToStop();
     const int code =
         isStopped && outcome != Delivery::Outcome::Printed ? concludeStopped() : conclude(outcome, why);
-    if (!folder.empty())
-        saveAbandonedJobs(folder);
+    if (!isUnknown)
+        lookAfterOthers();
+    const bool isTriedAgain = code == CUPS_BACKEND_RETRY_CURRENT || code == CUPS_BACKEND_FAILED;
     // The scheduler starts it again at once, and what is the matter may last.
-    interrupted.wait(-1, 0, code == CUPS_BACKEND_RETRY_CURRENT ? retryPause : 0);
-    if (interrupted.isOrphan() && code != CUPS_BACKEND_HOLD && code != CUPS_BACKEND_CANCEL)
+    interrupted.wait(-1, 0, isTriedAgain ? retryPause : 0);
+    if (code == CUPS_BACKEND_HOLD && interrupted.isToStop()) // then the scheduler does not heed the code
+        record->set(JobRecord::State::Sending);
+    if (interrupted.isOrphan() && code != CUPS_BACKEND_HOLD)
         handBack();
     return code;
+}
+
+void Run::lookAfterOthers() const
+{
+    if (!folder.empty())
+        saveAbandonedJobs(folder);
 }
 
 /// A scheduler whose backend was killed takes the job for printed as soon as nobody holds its pipe. So
@@ -265,13 +287,14 @@ int Run::conclude(Delivery::Outcome outcome, const std::string &why)
     return concludeStopped();
 }
 
-/// The scheduler stops the backend: it may start the job again by itself, so the record does not say that
-/// somebody was told.
+/// The scheduler stops the backend, and heeds no code: it may start the job again by itself, so the record
+/// does not say that somebody was told. When somebody else stopped it, the code holds what may be on paper.
 int Run::concludeStopped()
 {
-    report.info(stage.get() == Stage::NothingSent ? "Stopped before anything was printed."
-                                                  : "Stopped; a part of it may be on paper.");
-    return CUPS_BACKEND_CANCEL;
+    const bool isUntouched = stage.get() == Stage::NothingSent;
+    report.info(isUntouched ? "Stopped before anything was printed."
+                            : "Stopped; a part of it may be on paper.");
+    return isUntouched ? CUPS_BACKEND_RETRY_CURRENT : CUPS_BACKEND_HOLD;
 }
 
 int Run::concludePrinted()
@@ -307,10 +330,13 @@ int Run::concludeUnknown(const std::string &why)
 
 void Run::tellUnknown(const std::string &why)
 {
+    const std::optional<Ticket> ticket = job.file ? Ticket::fromFile(job.file) : std::nullopt;
+    const bool isMarked = ticket && ticket->canBeMarked();
     report.error(
         "It is unknown whether \"" + job.title + "\" was printed: " + why +
         ". Look for it at the printer. If it is there, cancel the job; if it is not, or not whole, release "
-        "it: it is printed again, with COPY on top.");
+        "it: it is printed again, " +
+        (isMarked ? "with COPY on top." : "and nothing on it says so."));
 }
 
 int Run::afterDeath()

@@ -63,11 +63,16 @@ Delivery::End Delivery::findPrinter()
 
 Delivery::End Delivery::takePrinter()
 {
+    const Clock::time_point until = Clock::now() + patience();
     lock.emplace(printer);
     while (!lock->tryTake()) {
         const int holder = lock->waiter();
         around.report.waiting(busyWith(lock->stranger()));
-        if (channel.waitFor(holder, POLLIN, Clock::now() + (holder < 0 ? 20ms : 60'000ms)) == Event::Stopped)
+        if (around.hasStandIn && Clock::now() >= until)
+            return notPrinted("the printer is busy with another ticket.");
+        const Clock::time_point next = Clock::now() + (holder < 0 ? 20ms : 60'000ms);
+        if (channel.waitFor(holder, POLLIN, around.hasStandIn ? std::min(next, until) : next) ==
+            Event::Stopped)
             return Outcome::Stopped;
     }
     return {};
@@ -131,7 +136,7 @@ Delivery::End Delivery::askUntilReady(Answers known)
             around.report.status(status);
             return learnWhetherItProves(known);
         }
-        if (event == Event::Late && known == Answers::NotAsked &&
+        if (event == Event::Late && known == Answers::NotAsked && !memory->hasAnswered() &&
             address.status == DeviceAddress::Status::Ask) {
             memory->remember(Answers::Nothing);
             return {};
@@ -186,7 +191,8 @@ PrinterChannel::Event Delivery::tryProof()
 {
     const std::string id = freshProofId();
     const Clock::time_point until = answerTime();
-    const Event event = sendAll(proofQuestion(id), until);
+    // It answers in real time, so it knows what the zero bytes are for.
+    const Event event = sendAll(Ticket::restOfTorn() + proofQuestion(id), until);
     return event == Event::Ready ? receiveUntil([&] { return answers.hasProof(id); }, until) : event;
 }
 
@@ -228,8 +234,11 @@ Delivery::End Delivery::awaitProof(const std::string &id)
             receiveUntil([&] { return answers.hasProof(id) || answers.hasStatus(); }, wait.next());
         if (event == Event::Broken || event == Event::Stopped)
             return brokenOff(event, {});
-        if (wait.isOver())
+        if (wait.isOver()) {
+            if (wait.isHeardReady()) // it was replaced by one that cannot confirm
+                memory->remember(Answers::NotAsked);
             return unknown("the printer did not confirm it within " + seconds(address.wait));
+        }
         if (const int answer = answers.takeStatus();
             answer >= 0 && wait.take(static_cast<unsigned char>(answer))) {
             around.report.status(wait.status());
@@ -245,9 +254,29 @@ Delivery::End Delivery::awaitProof(const std::string &id)
     return Outcome::Printed;
 }
 
+/// What a printer has in its memory is not on paper as long as something stops it.
+Delivery::End Delivery::awaitReady()
+{
+    for (;;) {
+        PrinterStatus status;
+        const Event event = askAll(status, Clock::now() + address.wait);
+        if (event != Event::Ready)
+            return brokenOff(event, "the printer did not say how it is within " + seconds(address.wait));
+        around.report.status(status);
+        if (status.isReady() || around.interrupted.isOrphan()) // nobody can stop a backend without a guard
+            return {};
+        if (channel.waitFor(-1, 0, Clock::now() + 500ms) == Event::Stopped)
+            return Outcome::Stopped;
+    }
+}
+
 /// The printer has taken all when it closes its side. Not all of them do.
 Delivery::End Delivery::finishUnconfirmed()
 {
+    if (level == Answers::Status) {
+        if (const End end = awaitReady())
+            return end;
+    }
     const Clock::time_point until = Clock::now() + address.wait;
     channel.finishWriting();
     const Clock::time_point closes = Clock::now() + std::min<Clock::duration>(closingTime, address.wait);

@@ -59,6 +59,7 @@ private:
     End send();
     End confirm();
     End awaitProof(const std::string &id);
+    End awaitReady();
     End finishUnconfirmed();
 
     Event tryProof();

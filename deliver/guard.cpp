@@ -115,7 +115,7 @@ Interruptions::Woken Interruptions::wait(int descriptor, short events, int milli
             _exit(diedWithScheduler);
         if (descriptors[3].revents != 0)
             loseGuard();
-        if (descriptors[1].revents != 0)
+        if (descriptors[1].revents != 0 || isGivenUp)
             return Woken::ByStop;
         if (ready <= 0 || descriptors[0].revents != 0)
             return ready <= 0 ? Woken::ByTime : Woken::ByDescriptor;
@@ -126,13 +126,12 @@ void Interruptions::loseGuard()
 {
     endWithDyingScheduler(guardDied);
     guard = -1;
-    if (onGuardGone)
-        onGuardGone();
+    isGivenUp = goesOnAlone && !goesOnAlone();
 }
 
 bool Interruptions::isToStop() const
 {
-    return isReadable(stop);
+    return isGivenUp || isReadable(stop);
 }
 
 /// The kernel tells of no parent that died before it was asked to; but then nobody reads the messages any

@@ -30,12 +30,12 @@ public:
     enum class Woken { ByDescriptor, ByTime, ByStop };
     Woken wait(int descriptor, short events, int milliseconds);
 
-    /// Whether a signal to stop waits.
+    /// Whether a signal to stop waits, or the work has been given up.
     bool isToStop() const;
     /// Whether the guard is gone, while the scheduler is not.
     bool isOrphan() const { return guard < 0; }
-    /// Called once, when the guard has gone.
-    std::function<void()> onGuardGone;
+    /// Called once, when the guard has gone. Says whether the work goes on without it.
+    std::function<bool()> goesOnAlone;
 
 private:
     friend class Worker;
@@ -45,6 +45,7 @@ private:
     }
     void loseGuard();
 
+    bool isGivenUp = false;
     const int stop;      ///< readable when a signal to stop has come
     int guard;           ///< of the process, readable when it has died; -1 when that is known
     const int scheduler; ///< the same

@@ -54,10 +54,10 @@ const StateWord &wordIn(std::string_view content)
 }
 
 /// The whole record, written by a backend of that scheduler.
-std::string recordText(JobRecord::State state, const std::string &scheduler)
+std::string recordText(JobRecord::State state, time_t endBefore, const std::string &scheduler)
 {
     std::string text(wordOf(state).word);
-    text += ' ' + std::to_string(time(nullptr)) + ' ' + scheduler + ' ';
+    text += ' ' + std::to_string(endBefore) + ' ' + scheduler + ' ';
     text.resize(recordLength - 1, ' ');
     return text + '\n';
 }
@@ -172,13 +172,13 @@ void JobRecord::read()
     const std::string content = contentOf(descriptor);
     known = wordIn(content).state;
     ofThisScheduler = content.find(' ' + scheduler + ' ') != std::string::npos;
-    const std::size_t time = content.find(' ');
-    written = time == std::string::npos ? 0 : std::atoll(content.c_str() + time);
+    const std::size_t end = content.find(' ');
+    knownEnd = end == std::string::npos ? 0 : std::atoll(content.c_str() + end);
 }
 
 bool JobRecord::set(State state)
 {
-    if (descriptor >= 0 && !rewriteDurably(descriptor, recordText(state, scheduler)))
+    if (descriptor >= 0 && !rewriteDurably(descriptor, recordText(state, knownEnd, scheduler)))
         return false;
     known = state;
     ofThisScheduler = true;
@@ -207,10 +207,8 @@ void doubtFreeRecord(const std::string &folder, std::string_view uuid, const std
     if (descriptor < 0)
         return;
     if (flock(descriptor, LOCK_EX | LOCK_NB) == 0 && isStillThere(descriptor, path)) {
-        const JobRecord::State state = wordIn(contentOf(descriptor)).state;
-        const bool isTold = state == JobRecord::State::Held;
-        const std::string untold = recordText(JobRecord::State::Sending, {});
-        if (!isFinished(state) && (!isTold || rewriteDurably(descriptor, untold)))
+        const bool isDoubtful = !isFinished(wordIn(contentOf(descriptor)).state);
+        if (isDoubtful && rewriteDurably(descriptor, recordText(JobRecord::State::Sending, 0, {})))
             then();
     }
     close(descriptor);
@@ -219,7 +217,12 @@ void doubtFreeRecord(const std::string &folder, std::string_view uuid, const std
 time_t recordsKeptSince(const std::string &folder)
 {
     struct stat file;
-    return stat(ageFile(folder).c_str(), &file) == 0 ? file.st_mtime : time(nullptr);
+    const time_t now = time(nullptr);
+    if (stat(ageFile(folder).c_str(), &file) != 0)
+        return now;
+    if (file.st_mtime > now) // the clock was wrong
+        utimensat(AT_FDCWD, ageFile(folder).c_str(), nullptr, AT_SYMLINK_NOFOLLOW);
+    return std::min(file.st_mtime, now);
 }
 
 void removeOldRecords(const std::string &folder)

@@ -38,8 +38,11 @@ public:
     State state() const { return known; }
     /// Whether the scheduler that runs now was told so, not one that ran before.
     bool isOfThisScheduler() const { return ofThisScheduler; }
-    /// When that was written down.
-    time_t since() const { return written; }
+    /// The last end of the job that the scheduler had noted when this run of it began, by its clock; 0 for
+    /// none. Another one was noted since: then somebody wants the job anew.
+    time_t endBefore() const { return knownEnd; }
+    /// Keeps it, from the next `set` on.
+    void setEndBefore(time_t end) { knownEnd = end; }
     /// Writes it down, durably. False when that cannot be done.
     bool set(State state);
 
@@ -50,7 +53,7 @@ private:
     bool isSound = true;
     bool ofThisScheduler = false;
     State known = State::New;
-    time_t written = 0;
+    time_t knownEnd = 0;
     std::string scheduler;
 };
 
@@ -58,8 +61,9 @@ private:
 std::string identityOf(pid_t process);
 
 /// Calls `then` when the job did not come to an end and nobody has its record open; nobody can open it
-/// meanwhile. One that says that somebody was told to hold the job says no more so by then: whatever dies in
-/// between, it is not taken for a job that a person released.
+/// meanwhile. By then the record says that bytes may have gone out, whatever it said before: the job is not
+/// taken for one that a person released, and not printed behind the back of a person who has taken it for
+/// lost.
 void doubtFreeRecord(const std::string &folder, std::string_view uuid, const std::function<void()> &then);
 /// Since when records have been kept in the folder; now when none are.
 time_t recordsKeptSince(const std::string &folder);

@@ -46,11 +46,21 @@ PrinterMemory::PrinterMemory(const std::string &folder, const std::string &print
 
 PrinterMemory::Answers PrinterMemory::answers() const
 {
+    const Answers answers = written();
+    return answers == Answers::Proof || !isOld(path) ? answers : Answers::NotAsked;
+}
+
+bool PrinterMemory::hasAnswered() const
+{
+    const Answers answers = written();
+    return answers == Answers::Status || answers == Answers::Proof;
+}
+
+PrinterMemory::Answers PrinterMemory::written() const
+{
     const std::string content = path.empty() ? "" : contentOf(path);
     const auto *found = std::ranges::find(answersWords, content, &AnswersWord::word);
-    if (found == std::end(answersWords) || (found->answers != Answers::Proof && isOld(path)))
-        return Answers::NotAsked;
-    return found->answers;
+    return found == std::end(answersWords) ? Answers::NotAsked : found->answers;
 }
 
 void PrinterMemory::remember(Answers answers) const

@@ -19,8 +19,12 @@ public:
     /// What is a day old is asked again, unless the printer gave proof: a printer learns nothing, but it may
     /// be replaced.
     Answers answers() const;
+    /// Whether it ever answered, however long ago: then its silence is a trouble, and not its nature.
+    bool hasAnswered() const;
     void remember(Answers answers) const;
 
 private:
+    Answers written() const;
+
     std::string path;
 };

@@ -23,5 +23,6 @@ bool ProofWait::take(unsigned char answer)
     question = question % PrinterStatus::questions + 1;
     const bool isRoundOver = question == 1;
     askAt = Clock::now() + (isRoundOver ? pause : std::chrono::seconds(0));
+    isHeard = isHeard || isRoundOver;
     return isRoundOver;
 }

@@ -21,6 +21,8 @@ public:
     /// True when the answer was the last one of a round.
     bool take(unsigned char answer);
     const PrinterStatus &status() const { return known; }
+    /// Whether the printer has told how it is, and that nothing stops it.
+    bool isHeardReady() const { return isHeard && known.isReady(); }
     /// A printer that waits for a person may take its time.
     void extend() { until = Clock::now() + longest; }
 
@@ -33,4 +35,5 @@ private:
     PrinterStatus known;
     int question = 1;
     bool isAsked = false;
+    bool isHeard = false; ///< a whole round
 };

@@ -1,6 +1,7 @@
 #include "ticket.h"
 
 #include "commands.h"
+#include "profiles.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -53,17 +54,13 @@ std::string bytesOf(QByteArrayView bytes)
     return {bytes.data(), std::size_t(bytes.size())};
 }
 
-/// Receipt printers are initialised at the start of a job, behind zero bytes that free them from a torn
-/// picture. How many these are; empty when the ticket is for something else.
-std::optional<std::size_t> zerosBeforeInitialisation(const std::string &beginning)
-{
-    const std::size_t place = beginning.find_first_not_of('\0');
-    const bool isThere =
-        place != std::string::npos && beginning.compare(place, 2, bytesOf(command::initialise)) == 0;
-    return isThere ? std::optional(place) : std::nullopt;
-}
-
 } // namespace
+
+std::string Ticket::restOfTorn()
+{
+    constexpr int widest = std::ranges::max(profiles, {}, &Profile::dots).dots;
+    return std::string(command::restOfPicture(widest), '\0');
+}
 
 std::optional<Ticket> Ticket::fromStandardInput(const std::string &folder)
 {
@@ -87,6 +84,12 @@ std::optional<Ticket> Ticket::fromFile(const char *path)
     return {};
 }
 
+Ticket::Ticket(int file, off_t size) : descriptor(file), bytes(size)
+{
+    if (canBeMarked())
+        head = restOfTorn();
+}
+
 Ticket::Ticket(Ticket &&other) noexcept
     : descriptor(std::exchange(other.descriptor, -1)), bytes(other.bytes), copies(other.copies),
       head(std::move(other.head))
@@ -99,13 +102,20 @@ Ticket::~Ticket()
         close(descriptor);
 }
 
+/// Receipt printers are initialised at the start of a job, behind zero bytes where it has a picture.
+bool Ticket::canBeMarked() const
+{
+    const std::string beginning = read(0);
+    const std::size_t place = beginning.find_first_not_of('\0');
+    return place != std::string::npos && beginning.compare(place, 2, bytesOf(command::initialise)) == 0;
+}
+
 void Ticket::markAsCopy()
 {
-    const std::optional<std::size_t> zeros = zerosBeforeInitialisation(piece(0));
-    if (!zeros)
+    if (!canBeMarked())
         return;
     const auto with = [](QByteArrayView command, char parameter) { return bytesOf(command) + parameter; };
-    head = std::string(*zeros, '\0') + bytesOf(command::initialise) + bytesOf(command::leaveChinese) +
+    head = restOfTorn() + bytesOf(command::initialise) + bytesOf(command::leaveChinese) +
            with(command::size, 0x11) + "COPY" + command::lineEnd + with(command::size, 0x00);
 }
 
@@ -116,9 +126,14 @@ std::string Ticket::piece(off_t place) const
         return head.substr(std::size_t(place));
     if (place >= size())
         return {};
-    const off_t within = (place - headSize) % bytes;
-    std::string piece(std::size_t(std::min(bytes - within, off_t(pieceSize))), '\0');
-    const ssize_t length = pread(descriptor, piece.data(), piece.size(), within);
+    return read((place - headSize) % bytes);
+}
+
+/// Of one copy.
+std::string Ticket::read(off_t place) const
+{
+    std::string piece(std::size_t(std::min(bytes - place, off_t(pieceSize))), '\0');
+    const ssize_t length = pread(descriptor, piece.data(), piece.size(), place);
     piece.resize(length > 0 ? std::size_t(length) : 0);
     return piece;
 }

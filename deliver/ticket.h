@@ -13,13 +13,19 @@ public:
     static std::optional<Ticket> fromStandardInput(const std::string &folder);
     static std::optional<Ticket> fromFile(const char *path);
 
+    /// What frees any receipt printer from a ticket that was torn: else it would take the first bytes of the
+    /// next one for the rest.
+    static std::string restOfTorn();
+
     Ticket(Ticket &&other) noexcept;
     Ticket &operator=(Ticket &&) = delete;
     ~Ticket();
 
     /// How often the bytes are printed.
     void setCopies(int count) { copies = count; }
-    /// Has it printed with "COPY" on top, where the printer's language is known.
+    /// Whether it begins as tickets for receipt printers do, so that the printer's language is known.
+    bool canBeMarked() const;
+    /// Has it printed with "COPY" on top, where it can be.
     void markAsCopy();
     /// Of all that is to be sent.
     off_t size() const { return off_t(head.size()) + bytes * copies; }
@@ -28,10 +34,11 @@ public:
     std::string piece(off_t place) const;
 
 private:
-    explicit Ticket(int file, off_t size) : descriptor(file), bytes(size) {}
+    std::string read(off_t place) const;
+    Ticket(int file, off_t size);
 
     int descriptor;
     off_t bytes;
     int copies = 1;
-    std::string head;
+    std::string head; ///< sent before the first copy
 };

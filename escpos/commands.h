@@ -28,6 +28,13 @@ inline constexpr int cutPartial = 1;
 inline constexpr int feedAndCutFull = 0x41; ///< followed by more dots to feed
 inline constexpr int feedAndCutPartial = 0x42;
 
+/// How many zero bytes free a printer that waits for the rest of a picture, at most one row with its command,
+/// when the job before was torn in it. The printer ignores them otherwise. `dots` are those across the paper.
+constexpr int restOfPicture(int dots)
+{
+    return dots / 8 + 7;
+}
+
 inline constexpr int maxFeed = 255; ///< rows that one command feeds
 
 /// The command with its parameters, each of which is one byte.

@@ -28,13 +28,6 @@ constexpr int firstStoredPicture = 1;
 constexpr int drawerOn = 25; ///< 50 ms, which opens every drawer
 constexpr int drawerOff = 250;
 
-/// What the printer takes for the missing rest of a picture, at most one row with its command, when the job
-/// before was torn in it. The printer ignores these bytes otherwise.
-QByteArray restOfPicture(const Profile &profile)
-{
-    return QByteArray(profile.dots / 8 + 7, '\0');
-}
-
 bool isRegisterMethod(const QString &name)
 {
     const vocabulary::PrintMethod *method = vocabulary::findPrintMethod(name);
@@ -63,7 +56,7 @@ QStringList EscPosPrinterDriver::troubles() const
 bool EscPosPrinterDriver::startDocument()
 {
     if (profile.pictures && !logoPath().isEmpty())
-        send(restOfPicture(profile));
+        send(QByteArray(command::restOfPicture(profile.dots), '\0'));
     return PrinterDriver::startDocument();
 }
 

@@ -49,3 +49,10 @@ QByteArray ticket(int number, int rows)
         bytes += "row " + name + "." + QByteArray::number(row) + '\n';
     return bytes + "end " + name + "\n\x1D\x56\x42" + '\0';
 }
+
+QByteArray ticketWithPicture(int number)
+{
+    const QByteArray line = "\x1D\x76\x30" + QByteArray("\x00\x30\x00\x01\x00", 5) + QByteArray(48, '\x55');
+    QByteArray bytes = ticket(number);
+    return bytes.insert(bytes.indexOf('\n') + 1, line.repeated(16));
+}

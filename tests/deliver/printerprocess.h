@@ -32,6 +32,9 @@ private:
 
 /// A ticket with its number on the first row and on the last one.
 QByteArray ticket(int number, int rows = 4);
+/// The same with a picture between the first row and the others: 16 rows of 384 dots, each a command of its
+/// own.
+QByteArray ticketWithPicture(int number);
 inline QString firstRow(int number)
 {
     return QStringLiteral("ticket %1").arg(number);

@@ -12,12 +12,11 @@ namespace {
 
 constexpr qsizetype bufferSize = 4096; // bytes, as such printers have
 constexpr int window = 4096;           // bytes under way, for they have little memory
-const QByteArray proofHead("\x1D\x28\x48\x06\x00\x30\x30", 7);
-constexpr qsizetype proofLength = 11;
 
 constexpr char ready = 0x12;
 constexpr char offline = 0x08;
 constexpr char coverBit = 0x04;
+constexpr char cutterBit = 0x08;
 constexpr char stoppedByPaper = 0x20;
 constexpr char paperOut = 0x60;
 constexpr char paperLow = 0x0C;
@@ -27,6 +26,7 @@ constexpr int lowRows = 10;
 
 const VirtualPrinter::Habit VirtualPrinter::habits[] = {
     {"cover", &VirtualPrinter::setCover},   // open, closed
+    {"cutter", &VirtualPrinter::setCutter}, // stuck, free
     {"paper", &VirtualPrinter::setPaper},   // rows that are left
     {"refuse", &VirtualPrinter::setRefuse}, // on, off: nobody listens
     {"read", &VirtualPrinter::setRead},     // on, off: connections are accepted and never read
@@ -75,6 +75,10 @@ bool VirtualPrinter::obey(const std::string &line)
 void VirtualPrinter::setCover(const std::string &value)
 {
     coverIsOpen = value == "open";
+}
+void VirtualPrinter::setCutter(const std::string &value)
+{
+    cutterIsStuck = value == "stuck";
 }
 void VirtualPrinter::setPaper(const std::string &value)
 {
@@ -220,6 +224,8 @@ QByteArray VirtualPrinter::statusAnswer(int question) const
         byte |= offline;
     if (question == 2)
         byte |= char((coverIsOpen ? coverBit : 0) | (rowsLeft <= 0 ? stoppedByPaper : 0));
+    if (question == 3 && cutterIsStuck)
+        byte |= cutterBit;
     if (question == 4)
         byte |= char((rowsLeft <= 0 ? paperOut : 0) | (rowsLeft < lowRows ? paperLow : 0));
     return QByteArray(1, byte);
@@ -227,29 +233,23 @@ QByteArray VirtualPrinter::statusAnswer(int question) const
 
 void VirtualPrinter::printSome()
 {
-    while (!buffer.isEmpty() && canPrint() && printOne())
-        ;
+    while (!buffer.isEmpty() && canPrint())
+        printOne();
     output.flush();
 }
 
-/// False when more bytes must come first.
-bool VirtualPrinter::printOne()
+void VirtualPrinter::printOne()
 {
-    if (buffer.startsWith(proofHead))
-        return answerProof();
-    if (buffer.size() < proofHead.size() && proofHead.startsWith(buffer))
-        return false;
-    decoder.take(QByteArrayView(buffer).first(1));
+    const QByteArray byte = buffer.first(1);
     buffer.remove(0, 1);
-    return true;
+    decoder.take(byte);
+    questions.take(byte);
+    if (const QByteArray id = questions.takeId(); !id.isEmpty())
+        answerProof(id);
 }
 
-bool VirtualPrinter::answerProof()
+void VirtualPrinter::answerProof(const QByteArray &id)
 {
-    if (buffer.size() < proofLength)
-        return false;
-    const QByteArray id = buffer.mid(proofHead.size(), 4);
-    buffer.remove(0, proofLength);
     if (vanish != "off") {
         vanish = vanish == "always" ? "always" : "off";
         drop(false);
@@ -258,7 +258,6 @@ bool VirtualPrinter::answerProof()
     } else if (status != "unproven") {
         answer("\x37\x22" + id + '\0');
     }
-    return true;
 }
 
 void VirtualPrinter::answer(const QByteArray &bytes)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "decoder.h"
+#include "prooffinder.h"
 #include "textpainter.h"
 
 #include <QByteArray>
@@ -63,6 +64,7 @@ private:
     };
 
     void setCover(const std::string &value);
+    void setCutter(const std::string &value);
     void setPaper(const std::string &value);
     void setRefuse(const std::string &value);
     void setRead(const std::string &value);
@@ -78,13 +80,13 @@ private:
     void take(const QByteArray &bytes);
     void takeRealTime(char byte);
     void printSome();
-    bool printOne();
-    bool answerProof();
+    void printOne();
+    void answerProof(const QByteArray &id);
     void answer(const QByteArray &bytes);
     void sendDueAnswers();
     void drop(bool asReset);
     bool canReceive() const;
-    bool canPrint() const { return !coverIsOpen && rowsLeft > 0; }
+    bool canPrint() const { return !coverIsOpen && !cutterIsStuck && rowsLeft > 0; }
     QByteArray statusAnswer(int question) const;
 
     int listeningPort = 0;
@@ -97,6 +99,7 @@ private:
     Clock::time_point lastReceived = Clock::now();
 
     bool coverIsOpen = false;
+    bool cutterIsStuck = false;
     int rowsLeft = 1'000'000;
     bool reads = true;
     int bytesToReset = -1; ///< of the ticket; -1: no reset
@@ -108,4 +111,5 @@ private:
     std::ofstream output;
     Roll roll;
     Decoder decoder;
+    ProofFinder questions;
 };
