@@ -113,6 +113,16 @@ private Q_SLOTS:
         QCOMPARE(printer.count(lastRow(2)), 3);
     }
 
+    void aJobOfSeveralDocuments()
+    {
+        PrinterProcess printer;
+        const ScratchFolder files;
+        const QString first = files.write(u"first"_s, ticket(34));
+        const QString second = files.write(u"second"_s, ticket(35));
+        server.run(u"lp"_s, {u"-d"_s, queueFor(printer), first, second});
+        QTRY_VERIFY_WITH_TIMEOUT(isWhole(printer, 34) && isWhole(printer, 35), 10'000);
+    }
+
     void aPrinterThatRefusesIsWaitedFor()
     {
         PrinterProcess printer;
