@@ -1,10 +1,19 @@
 #include "deviceaddress.h"
 
+#include "serialspeeds.h"
+
+#include <algorithm>
+#include <arpa/inet.h>
 #include <charconv>
 #include <cups/http.h>
+#include <iterator>
+#include <limits>
 #include <string_view>
 
 namespace {
+
+constexpr std::string_view scheme = "palvestrin:";
+constexpr std::string_view hostScheme = "palvestrin://";
 
 struct StatusWord
 {
@@ -49,11 +58,22 @@ std::string takeWait(std::string_view value, DeviceAddress &address)
     return {};
 }
 
+std::string shownSpeeds()
+{
+    std::string text;
+    for (const SerialSpeed &speed : serialSpeeds)
+        text += (text.empty() ? "" : ", ") + std::to_string(speed.baud);
+    return text;
+}
+
 std::string takeBaud(std::string_view value, DeviceAddress &address)
 {
-    return takeNumber(value, 50, 4'000'000, address.baud)
-               ? ""
-               : "baud is the speed of a serial line, such as 9600";
+    int baud = 0;
+    const bool isNumber = takeNumber(value, 1, std::numeric_limits<int>::max(), baud);
+    if (!isNumber || std::ranges::find(serialSpeeds, baud, &SerialSpeed::baud) == std::end(serialSpeeds))
+        return "baud is one of " + shownSpeeds();
+    address.baud = baud;
+    return {};
 }
 
 struct OptionKind
@@ -96,35 +116,55 @@ struct UriParts
     char resource[1024];
     int port = 0;
 
-    bool take(const std::string &uri)
+    http_uri_status_t take(const std::string &uri)
     {
         return httpSeparateURI(HTTP_URI_CODING_ALL, uri.c_str(), scheme, sizeof scheme, user, sizeof user,
-                               host, sizeof host, &port, resource, sizeof resource) >= HTTP_URI_STATUS_OK;
+                               host, sizeof host, &port, resource, sizeof resource);
     }
 };
 
 /// libcups wants a slash between a port and the options.
 std::string withSlash(std::string uri)
 {
-    constexpr std::string_view beginning = "palvestrin://";
-    const std::size_t end = uri.find_first_of("/?", beginning.size());
-    if (uri.starts_with(beginning) && end != std::string::npos && uri[end] == '?')
+    const std::size_t end = uri.find_first_of("/?", hostScheme.size());
+    if (uri.starts_with(hostScheme) && end != std::string::npos && uri[end] == '?')
         uri.insert(end, 1, '/');
     return uri;
 }
 
-std::string takePlace(const UriParts &parts, std::string_view path, DeviceAddress &address)
+bool isHost(const std::string &host)
+{
+    in_addr number{};
+    if (host.find_first_not_of("0123456789.") == std::string::npos)
+        return inet_pton(AF_INET, host.c_str(), &number) == 1;
+    return host.find_first_of(" !\"$&'()*+,;<=>@\\^`{|}~") == std::string::npos;
+}
+
+std::string takeHost(const UriParts &parts, std::string_view path, DeviceAddress &address)
 {
     address.host = parts.host;
     if (parts.port > 0)
         address.port = parts.port;
-    if (address.host.empty())
-        address.path = path;
-    if (address.host.empty() && !isBelowDev(path))
-        return "it names neither a host nor a device below /dev";
-    if (!address.host.empty() && path.size() > 1)
-        return "behind the host there is no path; options follow a question mark";
-    return {};
+    if (!isHost(address.host))
+        return "no host is called \"" + address.host + '"';
+    if (*parts.user)
+        return "printers have no users; before the host there is nothing";
+    return path.size() > 1 ? "behind the host there is no path; options follow a question mark" : "";
+}
+
+std::string takePlace(const UriParts &parts, std::string_view path, DeviceAddress &address)
+{
+    if (*parts.host)
+        return takeHost(parts, path, address);
+    address.path = path;
+    return isBelowDev(path) ? "" : "it names neither a host nor a device below /dev";
+}
+
+std::string wrongForm(http_uri_status_t status)
+{
+    return status == HTTP_URI_STATUS_BAD_PORT
+               ? "behind a colon there is a port, from 1 to 65535; an IPv6 address stands in brackets"
+               : "it is not of the form palvestrin://HOST or palvestrin:/dev/DEVICE";
 }
 
 } // namespace
@@ -139,11 +179,19 @@ bool isBelowDev(std::string_view path)
     return path.starts_with("/dev/") && path.find("/../") == std::string_view::npos && !path.ends_with("/..");
 }
 
+std::string deviceUri(const std::string &place)
+{
+    if (place.starts_with(scheme))
+        return withSlash(place);
+    return withSlash(std::string(place.starts_with('/') ? scheme : hostScheme) + place);
+}
+
 std::optional<DeviceAddress> deviceAddress(const std::string &uri, std::string &trouble)
 {
     UriParts parts;
-    if (!parts.take(withSlash(uri)) || std::string_view(parts.scheme) != "palvestrin") {
-        trouble = "it is not of the form palvestrin://HOST or palvestrin:/dev/DEVICE";
+    const http_uri_status_t status = parts.take(withSlash(uri));
+    if (status < HTTP_URI_STATUS_OK || std::string_view(parts.scheme) != "palvestrin") {
+        trouble = wrongForm(status);
         return {};
     }
     const std::string_view resource = parts.resource;

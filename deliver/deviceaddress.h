@@ -25,7 +25,7 @@ struct DeviceAddress
     Status status = Status::Ask;
     /// How long no sign of life is borne once bytes have gone out.
     std::chrono::seconds wait{300};
-    int baud = 0; ///< of a serial line; 0: as it is set
+    int baud = 0; ///< of a serial line, of deliver/serialspeeds.h; 0: as it is set
 
     /// "192.0.2.7, port 9100" or "/dev/usb/lp0".
     std::string shown() const;
@@ -33,6 +33,10 @@ struct DeviceAddress
 
 /// Whether the path names something in the folder of devices.
 bool isBelowDev(std::string_view path);
+
+/// The URI for a place that people name: "192.0.2.7", "kitchen:9101?wait=60", "/dev/usb/lp0", or a whole URI.
+/// It may be wrong.
+std::string deviceUri(const std::string &place);
 
 /// Empty when the URI is wrong; then `trouble` says in a sentence why.
 std::optional<DeviceAddress> deviceAddress(const std::string &uri, std::string &trouble);

@@ -1,5 +1,7 @@
 #include "serialline.h"
 
+#include "serialspeeds.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <iterator>
@@ -7,21 +9,10 @@
 
 namespace {
 
-struct Speed
-{
-    int baud;
-    speed_t code;
-};
-
-constexpr Speed speeds[] = {
-    {1200, B1200},   {2400, B2400},   {4800, B4800},     {9600, B9600},     {19200, B19200},
-    {38400, B38400}, {57600, B57600}, {115200, B115200}, {230400, B230400},
-};
-
 bool setSpeed(termios &settings, int baud)
 {
-    const auto *speed = std::ranges::find(speeds, baud, &Speed::baud);
-    if (speed == std::end(speeds)) {
+    const auto *speed = std::ranges::find(serialSpeeds, baud, &SerialSpeed::baud);
+    if (speed == std::end(serialSpeeds)) {
         errno = EINVAL;
         return false;
     }

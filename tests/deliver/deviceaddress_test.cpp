@@ -44,6 +44,39 @@ private Q_SLOTS:
         QCOMPARE(parsed("palvestrin://kitchen").wait, 300s);
     }
 
+    void speeds()
+    {
+        for (const int baud : {1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200, 230400})
+            QCOMPARE(parsed(("palvestrin:/dev/ttyS0?baud=" + std::to_string(baud)).c_str()).baud, baud);
+    }
+
+    void whatPeopleName_data()
+    {
+        QTest::addColumn<QByteArray>("place");
+        QTest::addColumn<QByteArray>("uri");
+        const auto row = [](const char *place, const char *uri) {
+            QTest::newRow(place) << QByteArray(place) << QByteArray(uri);
+        };
+        row("192.0.2.7", "palvestrin://192.0.2.7");
+        row("kitchen:9101", "palvestrin://kitchen:9101");
+        row("kitchen?wait=60", "palvestrin://kitchen/?wait=60");
+        row("kitchen:9101?wait=60", "palvestrin://kitchen:9101/?wait=60");
+        row("[2001:db8::7]?status=ask", "palvestrin://[2001:db8::7]/?status=ask");
+        row("palvestrin://kitchen?wait=60", "palvestrin://kitchen/?wait=60");
+        row("palvestrin://kitchen/?wait=60", "palvestrin://kitchen/?wait=60");
+        row("/dev/usb/lp0", "palvestrin:/dev/usb/lp0");
+        row("/dev/ttyS0?baud=9600", "palvestrin:/dev/ttyS0?baud=9600");
+        row("palvestrin:/dev/ttyS0?baud=9600", "palvestrin:/dev/ttyS0?baud=9600");
+    }
+    void whatPeopleName()
+    {
+        QFETCH(QByteArray, place);
+        const std::string uri = deviceUri(place.toStdString());
+        QTEST(QByteArray::fromStdString(uri), "uri");
+        std::string trouble;
+        QVERIFY2(deviceAddress(uri, trouble), trouble.c_str());
+    }
+
     void wrongOnes_data()
     {
         QTest::addColumn<QByteArray>("uri");
@@ -60,7 +93,26 @@ private Q_SLOTS:
         row("palvestrin://kitchen?wait=7s", "wait is a number of seconds from 1 to 86400");
         row("palvestrin:/dev/../etc/passwd", "it names neither a host nor a device below /dev");
         row("palvestrin:/dev/shm/..", "it names neither a host nor a device below /dev");
-        row("palvestrin:/dev/ttyS0?baud=x", "baud is the speed of a serial line, such as 9600");
+        constexpr auto speeds = "baud is one of 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200, 230400";
+        row("palvestrin:/dev/ttyS0?baud=x", speeds);
+        row("palvestrin:/dev/ttyS0?baud=", speeds);
+        row("palvestrin:/dev/ttyS0?baud=0", speeds);
+        row("palvestrin:/dev/ttyS0?baud=9601", speeds); // between two that there are
+        row("palvestrin:/dev/ttyS0?baud=4000000", speeds);
+        row("palvestrin://", "it names neither a host nor a device below /dev");
+        row("palvestrin://kitchen:",
+            "behind a colon there is a port, from 1 to 65535; an IPv6 address stands in brackets");
+        row("palvestrin://kitchen:0",
+            "behind a colon there is a port, from 1 to 65535; an IPv6 address stands in brackets");
+        row("palvestrin://kitchen:65536",
+            "behind a colon there is a port, from 1 to 65535; an IPv6 address stands in brackets");
+        row("palvestrin://2001:db8::7",
+            "behind a colon there is a port, from 1 to 65535; an IPv6 address stands in brackets");
+        row("palvestrin://192.0.2.300", "no host is called \"192.0.2.300\"");
+        row("palvestrin://192.0.2", "no host is called \"192.0.2\"");
+        row("palvestrin://192,0,2,7", "no host is called \"192,0,2,7\"");
+        row("palvestrin://the%20kitchen", "no host is called \"the kitchen\"");
+        row("palvestrin://root@kitchen", "printers have no users; before the host there is nothing");
         row("palvestrin://kitchen?stat=never",
             "there is no option \"stat=never\"; there are status, wait and baud");
     }
