@@ -3,6 +3,8 @@
 #include "printerstatus.h"
 #include "sentences.h"
 
+#include <QSysInfo>
+
 #include <algorithm>
 #include <array>
 #include <cups/cups.h>
@@ -28,6 +30,7 @@ constexpr std::array models{
 };
 
 constexpr auto maker = "Palvestrin "_L1;
+constexpr int connectionTime = 3000; ///< milliseconds
 constexpr auto messageName = "job-printer-state-message";
 
 QString optionOf(const cups_dest_t &destination, const char *name)
@@ -57,7 +60,8 @@ PrintQueue queueOf(const cups_dest_t &destination)
             optionOf(destination, "device-uri"),
             stateWord(optionOf(destination, "printer-state")),
             optionOf(destination, "printer-state-message"),
-            reasonsIn(optionOf(destination, "printer-state-reasons"))};
+            reasonsIn(optionOf(destination, "printer-state-reasons")),
+            optionOf(destination, "printer-is-accepting-jobs") != "false"_L1};
 }
 
 QString textIn(const Answer &answer, const char *name)
@@ -162,21 +166,26 @@ QString queueName(const QString &name)
 {
     QString queue = name;
     const auto isUnfit = [](QChar character) {
-        return character <= u' ' || character == u'\x7F' || QStringView(u"/\\?'\"#").contains(character);
+        return character <= u' ' || character == u'\x7F' || QStringView(u"/\\?'\"#<").contains(character);
     };
     std::ranges::replace_if(queue, isUnfit, u'_');
     return queue;
 }
 
-QList<PrintQueue> printQueues()
+/// Without the entries that people made of a queue and options of theirs: "Cassa/draft".
+std::optional<QList<PrintQueue>> printQueues()
 {
     cups_dest_t *destinations = nullptr;
     const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &destinations);
     QList<PrintQueue> queues;
-    for (int place = 0; place < count; ++place)
-        queues += queueOf(destinations[place]);
+    for (int place = 0; place < count; ++place) {
+        if (!destinations[place].instance)
+            queues += queueOf(destinations[place]);
+    }
     cupsFreeDests(count, destinations);
-    return queues;
+    const bool isAnswered = cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE ||
+                            cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND; // it has none
+    return isAnswered ? std::optional(queues) : std::nullopt;
 }
 
 std::optional<int> submitJob(const QString &queue, const QString &title, QIODevice &data, int copies)
@@ -210,9 +219,27 @@ PrintJob printJob(int number)
     return {stateOf(answer), textIn(answer, messageName)};
 }
 
+/// Without a connection the library's words are those of some later call, such as "Bad file descriptor".
 QString serverTrouble()
 {
-    return QString::fromUtf8(cupsLastErrorString());
+    const QString words = QString::fromUtf8(cupsLastErrorString());
+    if (cupsLastError() != IPP_STATUS_ERROR_SERVICE_UNAVAILABLE)
+        return words;
+    http_t *const connection = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                            connectionTime, nullptr);
+    httpClose(connection);
+    return connection ? words : u"nothing takes the connection at "_s + serverName();
+}
+
+QString serverName()
+{
+    return QString::fromUtf8(cupsServer());
+}
+
+bool isOnThisMachine(const QString &server)
+{
+    return server.startsWith(u'/') || server == "localhost"_L1 || server.startsWith("127."_L1) ||
+           server == "::1"_L1 || server == "[::1]"_L1 || server == QSysInfo::machineHostName();
 }
 
 QString profileOfModel(const QString &model)

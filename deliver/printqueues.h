@@ -10,6 +10,11 @@
 /// What people and commands ask of the print server: which printers it has, and what becomes of a job. The
 /// server is the one that its own commands talk to. Trouble is told by `serverTrouble()`.
 
+/// The host of the server, or the path of its socket.
+QString serverName();
+/// Whether the server of that name runs here, and its files are those of this machine.
+bool isOnThisMachine(const QString &server);
+
 struct PrintQueue
 {
     QString name;
@@ -18,6 +23,7 @@ struct PrintQueue
     QString state;   ///< "idle", "printing" or "stopped"
     QString message;
     QStringList reasons; ///< "media-low-warning"
+    bool isAccepting;    ///< jobs
 
     /// What the printer says of itself, sentences: "The paper is nearly out."
     QStringList troubles() const;
@@ -34,13 +40,13 @@ struct PrintJob
 /// The name of a queue for a printer that people call `name`: queues have no blanks and no slashes in theirs.
 QString queueName(const QString &name);
 
-/// By name. Empty when there is no server, too.
-QList<PrintQueue> printQueues();
+/// By name. Empty when the server does not answer.
+std::optional<QList<PrintQueue>> printQueues();
 /// Hands the data to the queue as they are, to be printed `copies` times. Returns the number of the job;
 /// empty when the server does not take it.
 std::optional<int> submitJob(const QString &queue, const QString &title, QIODevice &data, int copies);
 PrintJob printJob(int number);
-/// What the server, or the way to it, answered last.
+/// What the server, or the way to it, answered last; for people.
 QString serverTrouble();
 
 /// The profile of a model of ours, "line" for none; "" for a model of others.

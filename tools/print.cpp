@@ -10,6 +10,7 @@
 #include "jobqueue.h"
 #include "printerchoice.h"
 #include "printqueues.h"
+#include "queuelist.h"
 #include "terminal.h"
 
 #include <QElapsedTimer>
@@ -28,7 +29,7 @@ namespace {
 QList<Offer> offerQueues(const CommandLine &, const QString &)
 {
     QList<Offer> offers;
-    for (const PrintQueue &queue : printQueues())
+    for (const PrintQueue &queue : printQueues().value_or(QList<PrintQueue>()))
         offers += Offer{queue.name, queue.model};
     return offers;
 }
@@ -127,7 +128,7 @@ PrintQueue queueFor(const CommandLine &line, const FileName &file)
     const QString name = line.has(u"queue") ? line.value(u"queue") : printerNamedIn(file);
     if (name.isEmpty())
         throw CommandError(ExitCode::WrongUsage, file, u"the job names no printer; name one with --queue"_s);
-    const QList<PrintQueue> queues = printQueues();
+    const QList<PrintQueue> queues = queuesOfServer();
     const auto queue = std::ranges::find(queues, queueName(name), &PrintQueue::name);
     if (queue == queues.end())
         throw CommandError(ExitCode::Unreadable, file,
@@ -215,16 +216,20 @@ bool isOver(PrintJob::State state)
     return state != PrintJob::State::Waiting && state != PrintJob::State::Printing;
 }
 
-QString sentenceOf(const Submitted &submitted)
+/// What the backend said last, where that still holds; it says nothing of its own death.
+QString messageOf(const Submitted &submitted)
 {
     using State = PrintJob::State;
     const State state = submitted.job.state;
-    const bool isOwnMessage = state != State::Printed && state != State::Abandoned && state != State::Gone;
-    const QString text = isOwnMessage && !submitted.job.message.isEmpty()
-                             ? submitted.job.message
-                             : QString(outcomeOf(state).sentence);
+    const bool isBackends = state != State::Printed && state != State::Abandoned && state != State::Gone;
+    return isBackends && !submitted.job.message.isEmpty() ? submitted.job.message
+                                                          : QString(outcomeOf(state).sentence);
+}
+
+QString sentenceOf(const Submitted &submitted)
+{
     return u"%1: job %2 on %3: %4"_s.arg(submitted.file.shown(), QString::number(submitted.number),
-                                         submitted.queue, text);
+                                         submitted.queue, messageOf(submitted));
 }
 
 /// One line, written over and over.
@@ -264,7 +269,7 @@ QJsonObject asJson(const Submitted &submitted)
             {u"printer"_s, submitted.queue},
             {u"number"_s, submitted.number},
             {u"outcome"_s, outcomeOf(submitted.job.state).word},
-            {u"message"_s, submitted.job.message}};
+            {u"message"_s, messageOf(submitted)}};
 }
 
 /// Of several the worst, which is the last one of the table of exit codes.

@@ -2,5 +2,8 @@
 
 #include "command.h"
 
-/// `palvestrin printers`: lists the printers of the print server; `palvestrin printers add` adds one.
+/// `palvestrin printers` and its commands, one source file each: printers_list.cpp and so on.
+
 extern const Command printersCommand;
+extern const Command printersListCommand;
+extern const Command printersAddCommand;
