@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <csignal>
@@ -40,6 +41,12 @@ private:
     ProgramRun run(const QStringList &words) const
     {
         return runProgram(QStringLiteral(PALVESTRIN_PROGRAM), words, environment());
+    }
+    /// With another server than the usual one.
+    ProgramRun runAt(const QString &otherServer, const QStringList &words) const
+    {
+        return runProgram(QStringLiteral(PALVESTRIN_PROGRAM), words,
+                          environment() + QStringList{u"CUPS_SERVER="_s + otherServer});
     }
     ProgramRun runShell(const QString &commands) const
     {
@@ -77,18 +84,88 @@ private Q_SLOTS:
         QCOMPARE(run({u"printers"_s, u"list"_s}).standardOutput, list.standardOutput);
     }
 
+    /// What a person keeps of options for a queue, "Cassa/draft", is no printer.
+    void optionsOfAPersonAreNoPrinter()
+    {
+        QDir(home.path()).mkpath(u".cups"_s);
+        home.write(u".cups/lpoptions"_s, "Dest Cassa/draft copies=2\n");
+        QCOMPARE(runShell(u"lpstat -e"_s).standardOutput, QByteArray("Cassa\nCassa/draft\n"));
+        QCOMPARE(run({u"printers"_s}).standardOutput, QByteArray("Cassa: Palvestrin 80mm, 1.0; idle.\n"));
+        QVERIFY(QFile::remove(home.path(u".cups/lpoptions"_s)));
+    }
+
+    void theListTellsHowToStartAPrinter()
+    {
+        server.run(u"cupsdisable"_s, {u"Cassa"_s});
+        server.run(u"cupsreject"_s, {u"Cassa"_s});
+        QCOMPARE(
+            run({u"printers"_s}).standardOutput,
+            QByteArray("Cassa: Palvestrin 80mm, 1.0; stopped. \"cupsenable Cassa\" starts it. It takes no "
+                       "jobs; \"cupsaccept Cassa\" has it take them.\n"));
+        server.run(u"cupsaccept"_s, {u"Cassa"_s});
+        server.run(u"cupsenable"_s, {u"Cassa"_s});
+        QCOMPARE(run({u"printers"_s}).standardOutput, QByteArray("Cassa: Palvestrin 80mm, 1.0; idle.\n"));
+    }
+
+    void noPrinters()
+    {
+        const PrintServer empty;
+        const ProgramRun list = runAt(empty.socket(), {u"printers"_s});
+        QCOMPARE(list.exitStatus, 0);
+        QCOMPARE(list.standardOutput,
+                 QByteArray("There are no printers; \"palvestrin printers add NAME ADDRESS\" adds one.\n"));
+        QCOMPARE(runAt(empty.socket(), {u"printers"_s, u"--json"_s}).standardOutput, QByteArray("[\n]\n"));
+    }
+
+    /// That is something else than no printers.
+    void noServer_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("list") << QStringList{u"printers"_s};
+        QTest::newRow("list as JSON") << QStringList{u"printers"_s, u"--json"_s};
+        QTest::newRow("print") << QStringList{u"print"_s, job};
+        QTest::newRow("print on a printer")
+            << QStringList{u"print"_s, u"--queue"_s, u"Cassa"_s, u"--json"_s, job};
+    }
+    void noServer()
+    {
+        QFETCH(QStringList, words);
+        const QString socket = home.path(u"nobody"_s);
+        const ProgramRun outcome = runAt(socket, words);
+        QCOMPARE(outcome.exitStatus, 16);
+        QCOMPARE(outcome.standardError,
+                 "palvestrin: error: the print server does not answer: nothing takes the "
+                 "connection at " +
+                     socket.toUtf8() +
+                     "; \"systemctl start cups\" starts it, \"systemctl status cups\" "
+                     "tells why it ended\n");
+        QCOMPARE(outcome.standardOutput, QByteArray());
+    }
+
+    void theServerOfAnotherMachineIsAway()
+    {
+        const ProgramRun outcome = runAt(u"till.invalid"_s, {u"printers"_s});
+        QCOMPARE(outcome.exitStatus, 16);
+        QCOMPARE(
+            outcome.standardError,
+            QByteArray("palvestrin: error: the print server does not answer: nothing takes the connection at "
+                       "till.invalid; look after that machine, or name another one in CUPS_SERVER or "
+                       "client.conf\n"));
+    }
+
     void theListTellsWhatThePrinterSays()
     {
         printer.habit("paper 9");
         server.awaitState(server.submit(u"Cassa"_s, ticket(1)), {JobInfo::Completed});
         QCOMPARE(run({u"printers"_s}).standardOutput,
                  QByteArray("Cassa: Palvestrin 80mm, 1.0; idle. The paper is nearly out.\n"));
-        const QJsonObject told = QJsonDocument::fromJson(run({u"printers"_s, u"--json"_s}).standardOutput)
-                                     .array()
-                                     .first()
-                                     .toObject();
-        QCOMPARE(told.value(u"profile"_s).toString(), u"80mm"_s);
-        QCOMPARE(told.value(u"reasons"_s).toArray(), QJsonArray{u"media-low-warning"_s});
+        QCOMPARE(run({u"printers"_s, u"--json"_s}).standardOutput,
+                 "[\n    {\n        \"accepting\": true,\n        \"address\": \"" + printer.uri("wait=2") +
+                     "\",\n        \"message\": \"\",\n        \"model\": "
+                     "\"Palvestrin 80mm, 1.0\",\n        \"name\": \"Cassa\",\n        \"profile\": "
+                     "\"80mm\",\n        \"reasons\": [\n            \"media-low-warning\"\n        ],\n"
+                     "        \"state\": \"idle\",\n        \"troubles\": [\n            "
+                     "\"The paper is nearly out.\"\n        ]\n    }\n]\n");
         printer.habit("paper 100000");
         server.awaitState(server.submit(u"Cassa"_s, ticket(2)), {JobInfo::Completed});
         QCOMPARE(run({u"printers"_s}).standardOutput, QByteArray("Cassa: Palvestrin 80mm, 1.0; idle.\n"));
@@ -111,28 +188,42 @@ private Q_SLOTS:
         server.addQueue(u"Cassa"_s, printer.uri("wait=2"));
     }
 
-    /// The server takes it for printed, and nobody knows.
+    /// The server takes it for printed, and nobody knows. What the backend said last is no news by then.
+    void aKilledBackendIsNoTicket_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QByteArray>("said");
+        QTest::newRow("for people")
+            << QStringList()
+            << QByteArray(" on Cassa: unknown: the backend was killed; look for the ticket at the printer\n");
+        QTest::newRow("as JSON")
+            << QStringList{u"--json"_s}
+            << QByteArray(
+                   "\"message\": \"unknown: the backend was killed; look for the ticket at the printer\"");
+    }
     void aKilledBackendIsNoTicket()
     {
+        QFETCH(QStringList, options);
         printer.habit("cover open");
         QProcess print;
         print.setEnvironment(environment());
-        print.start(QStringLiteral(PALVESTRIN_PROGRAM), {u"print"_s, u"--wait"_s, u"30"_s, job});
+        print.start(QStringLiteral(PALVESTRIN_PROGRAM),
+                    QStringList{u"print"_s, u"--wait"_s, u"30"_s, job} + options);
         QTRY_VERIFY_WITH_TIMEOUT(server.reasons(u"Cassa"_s).contains("cover-open-error"), 15'000);
         for (const qint64 process : server.backends())
             ::kill(pid_t(process), SIGKILL);
         QVERIFY(print.waitForFinished(15'000));
         QCOMPARE(print.exitCode(), 15);
-        const QByteArray said = print.readAllStandardOutput();
-        QVERIFY2(
-            said.endsWith(" on Cassa: unknown: the backend was killed; look for the ticket at the printer\n"),
-            said);
+        const QByteArray outcome = print.readAllStandardOutput();
+        QFETCH(QByteArray, said);
+        QVERIFY2(outcome.contains(said), outcome);
         printer.habit("cover closed");
         const int before = rowsWith(u"PRECONTO"_s);
         server.awaitState(server.submit(u"Cassa"_s, ticket(3)), {JobInfo::Completed});
         // The next job saw to it: it is held, and not printed behind the back of who was told so.
-        const QString number = QString::fromUtf8(said).section(u": job "_s, 1).section(u' ', 0, 0);
-        QTRY_COMPARE_WITH_TIMEOUT(server.job(number.toInt()).state, int(JobInfo::Held), 10'000);
+        const QRegularExpression number(u"(?:: job |\"number\": )(\\d+)"_s);
+        const int doubtful = number.match(QString::fromUtf8(outcome)).captured(1).toInt();
+        QTRY_COMPARE_WITH_TIMEOUT(server.job(doubtful).state, int(JobInfo::Held), 10'000);
         QCOMPARE(rowsWith(u"PRECONTO"_s), before);
     }
 
@@ -355,9 +446,6 @@ private Q_SLOTS:
             << QStringList{u"print"_s, u"--check"_s, u"-"_s} << QByteArray("give a file\n");
         QTest::newRow("wait") << QStringList{u"print"_s, u"--wait"_s, u"soon"_s, job}
                               << QByteArray("--wait takes a number of seconds");
-        QTest::newRow("model") << QStringList{u"printers"_s,  u"add"_s,     u"x"_s,
-                                              u"192.0.2.1"_s, u"--model"_s, u"90mm"_s}
-                               << QByteArray("there is no model \"90mm\"");
     }
     void errors()
     {
@@ -366,6 +454,129 @@ private Q_SLOTS:
         const ProgramRun outcome = run(words);
         QVERIFY(outcome.exitStatus > 0);
         QVERIFY2(outcome.standardError.contains(message), outcome.standardError);
+    }
+
+    /// They are found before the server hears of it.
+    void whatIsNotAdded_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<QByteArray>("message");
+        const auto address = [](const char *text, const char *trouble) {
+            QTest::newRow(text) << QStringList{u"x"_s, QString::fromUtf8(text)}
+                                << "\"" + QByteArray(text) + "\" is no address of a printer: " + trouble +
+                                       "; give a host such as 192.0.2.7 or a device such as /dev/usb/lp0\n";
+        };
+        address("192.0.2.300", "no host is called \"192.0.2.300\"");
+        address("192.0.2.7:99999",
+                "behind a colon there is a port, from 1 to 65535; an IPv6 address stands in "
+                "brackets");
+        address("192.0.2.7?wait=never", "wait is a number of seconds from 1 to 86400");
+        address("palvestrin://192.0.2.7?retry=1",
+                "there is no option \"retry=1\"; there are status, wait and baud");
+        address("palvestrin:/dev/ttyS0?baud=9601",
+                "baud is one of 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200, 230400");
+        address("/etc/passwd", "it names neither a host nor a device below /dev");
+        address("", "it names neither a host nor a device below /dev");
+        for (const char *other : {"socket://192.0.2.7:9100", "ipp://till/printers/Cassa", "usb://Maker/Model",
+                                  "file:/dev/null", "serial:/dev/ttyS0?baud=9600"})
+            QTest::newRow(other) << QStringList{u"x"_s, QString::fromUtf8(other)}
+                                 << "\"" + QByteArray(other) +
+                                        "\" is for another backend; this command adds printers through the "
+                                        "backend palvestrin, by a host such as 192.0.2.7 or a device such as "
+                                        "/dev/usb/lp0; lpadmin adds others\n";
+        const auto name = [](const QString &text, const char *trouble) {
+            QTest::newRow(trouble) << QStringList{u"--"_s, text, u"192.0.2.7"_s}
+                                   << "\"" + text.toUtf8() +
+                                          "\" cannot be the name of a printer: " + trouble +
+                                          "; take another\n";
+        };
+        name(u"-x"_s, "it begins with \"-\", as options do");
+        name(u""_s, "it is empty");
+        name(u".."_s, "folders are called so");
+        name(QString(64, u'ü'), "it is longer than 127 bytes");
+        QTest::newRow("model") << QStringList{u"x"_s, u"192.0.2.7"_s, u"--model"_s, u"90mm"_s}
+                               << QByteArray(
+                                      "there is no model \"90mm\"; there are 80mm, 80mm-42, 58mm, generic, "
+                                      "line\n");
+    }
+    void whatIsNotAdded()
+    {
+        QFETCH(QStringList, words);
+        QFETCH(QByteArray, message);
+        const QByteArray before = server.run(u"lpstat"_s, {u"-e"_s});
+        const ProgramRun outcome = run(QStringList{u"printers"_s, u"add"_s} + words);
+        QCOMPARE(outcome.exitStatus, 2);
+        QCOMPARE(outcome.standardError, "palvestrin: error: " + message);
+        QCOMPARE(server.run(u"lpstat"_s, {u"-e"_s}), before);
+    }
+
+    void theAddressOfTheQueue_data()
+    {
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QString>("given");
+        QTest::addColumn<QString>("uri");
+        const auto row = [](const char *model, const char *given, const char *uri) {
+            QTest::addRow("%s %s", model, given)
+                << QString::fromUtf8(model) << QString::fromUtf8(given) << QString::fromUtf8(uri);
+        };
+        row("80mm", "192.0.2.7", "palvestrin://192.0.2.7");
+        row("80mm", "192.0.2.7:9101?wait=60", "palvestrin://192.0.2.7:9101/?wait=60");
+        row("line", "192.0.2.7", "palvestrin://192.0.2.7/?status=never");
+        row("line", "192.0.2.7?wait=60", "palvestrin://192.0.2.7/?wait=60&status=never");
+        row("line", "palvestrin:/dev/tty?baud=9600", "palvestrin:/dev/tty?baud=9600&status=never");
+        row("line", "palvestrin://192.0.2.7?status=ask", "palvestrin://192.0.2.7/?status=ask");
+    }
+    void theAddressOfTheQueue()
+    {
+        QFETCH(QString, model);
+        QFETCH(QString, given);
+        const ProgramRun added = run({u"printers"_s, u"add"_s, u"Sala <2>"_s, given, u"--model"_s, model});
+        QVERIFY2(added.failure.isEmpty(), added.standardError);
+        QString uri;
+        for (const QJsonValue &each :
+             QJsonDocument::fromJson(run({u"printers"_s, u"--json"_s}).standardOutput).array()) {
+            if (each.toObject().value(u"name"_s) == u"Sala__2>"_s)
+                uri = each.toObject().value(u"address"_s).toString();
+        }
+        QTEST(uri, "uri");
+        QVERIFY2(!added.standardError.contains("at present"), added.standardError);
+        server.run(u"lpadmin"_s, {u"-x"_s, u"Sala__2>"_s});
+    }
+
+    void aDeviceThatIsNotThere()
+    {
+        const ProgramRun added = run({u"printers"_s, u"add"_s, u"USB"_s, u"/dev/usb/lp99"_s});
+        QCOMPARE(added.exitStatus, 0);
+        QVERIFY2(
+            added.standardError.contains("palvestrin: note: there is no /dev/usb/lp99 at present; switch the "
+                                         "printer on, and look for its device in /dev/usb\n"),
+            added.standardError);
+        server.run(u"lpadmin"_s, {u"-x"_s, u"USB"_s});
+    }
+
+    /// lpadmin asks for it on the terminal, and gets empty lines.
+    void aPasswordIsAskedFor()
+    {
+        const ProgramRun outcome =
+            runShell(u"export CUPS_SERVER=127.0.0.1:%1\n"
+                     "for line in 1 2 3 4 5 6 7 8; do sleep 0.5; echo; done |\n"
+                     "script -qec 'palvestrin printers add Bar 192.0.2.7' /dev/null"_s.arg(server.port()));
+        QVERIFY2(outcome.standardOutput.contains("Password for root on "), outcome.standardOutput);
+        QVERIFY2(outcome.standardOutput.contains("palvestrin: error: printer Bar was not added: lpadmin: "),
+                 outcome.standardOutput);
+        QCOMPARE(outcome.exitStatus, 16);
+    }
+
+    void whatLpadminSaysIsPassedOn()
+    {
+        const ProgramRun added = run({u"printers"_s, u"add"_s, u"Bar"_s, u"192.0.2.7"_s});
+        QVERIFY2(added.standardError.contains("palvestrin: note: lpadmin: Printer drivers are deprecated"),
+                 added.standardError);
+        server.run(u"lpadmin"_s, {u"-x"_s, u"Bar"_s});
+        const ProgramRun away =
+            runAt(home.path(u"nobody"_s), {u"printers"_s, u"add"_s, u"Bar"_s, u"192.0.2.7"_s});
+        QCOMPARE(away.exitStatus, 16);
+        QVERIFY2(away.standardError.contains("printer Bar was not added: lpadmin: "), away.standardError);
     }
 
     /// A profile without a model could be rendered for, and not be added.
