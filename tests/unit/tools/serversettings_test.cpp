@@ -68,84 +68,81 @@ private Q_SLOTS:
             "F/cupsd.conf leaves PreserveJobFiles at \"86400\": good.\n"_s);
     }
 
-    void lines_data()
+    void goodLines_data()
     {
         QTest::addColumn<QString>("file");
         QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("setting");
-        QTest::addColumn<QString>("advice");
-        const QString dirty = u"DirtyCleanInterval"_s;
-        const QString history = u"PreserveJobHistory"_s;
-        const QString files = u"PreserveJobFiles"_s;
-        const QString sync = u"SyncOnClose"_s;
-        const auto row = [](const char *name, const QByteArray &content, const QString &setting,
-                            const QString &advice) {
-            const QString file = setting == "SyncOnClose"_L1 ? u"cups-files.conf"_s : u"cupsd.conf"_s;
-            QTest::newRow(name) << file << content << setting << advice;
+        QTest::addColumn<QByteArray>("line");
+        const auto row = [](const char *name, const QByteArray &content, const char *line) {
+            QTest::newRow(name) << u"cupsd.conf"_s << content << QByteArray(line);
         };
-        const auto good = [&](const char *name, const QByteArray &content, const QString &setting,
-                              const QString &line) {
-            const QString file = setting == "SyncOnClose"_L1 ? u"cups-files.conf"_s : u"cupsd.conf"_s;
-            row(name, content, setting, u"F/%1 has \"%2\": good."_s.arg(file, line));
-        };
-        const QString putDirty =
-            u"Put \"DirtyCleanInterval 0\" into F/cupsd.conf%1 and restart cups; without it, "
-            "jobs of the last seconds, usually 30, are lost when the server is killed."_s;
-        const QString putSync =
-            u"Put \"SyncOnClose Yes\" into F/cups-files.conf%1 and restart cups; without it, "
-            "jobs are lost when the power fails."_s;
-        const QString putHistory =
-            u"Put \"PreserveJobHistory Yes\" into F/cupsd.conf%1 and restart cups; without "
-            "it, the server forgets what became of a job, and nobody can tell whether it "
-            "was printed."_s;
-        const QString putFiles =
-            u"Put \"PreserveJobFiles 86400\" into F/cupsd.conf%1 and restart cups; without it, "
-            "a job whose backend was killed cannot be started again."_s;
-        const QString instead = u", in place of \"%1\","_s;
-
-        good("a line", "DirtyCleanInterval 0\n", dirty, u"DirtyCleanInterval 0"_s);
-        good("letters and blanks", "LogLevel warn\n \tdirtycleaninterval \t 0 \t\nMaxClients 9\n", dirty,
-             u"DirtyCleanInterval 0"_s);
-        good("no line end", "DirtyCleanInterval 0", dirty, u"DirtyCleanInterval 0"_s);
-        good("a comment behind it", "DirtyCleanInterval 0 # at once\n", dirty, u"DirtyCleanInterval 0"_s);
-        good("no time", "DirtyCleanInterval Off\n", dirty, u"DirtyCleanInterval Off"_s);
-        good("no hours", "DirtyCleanInterval 0h\n", dirty, u"DirtyCleanInterval 0h"_s);
-        good("the last line counts", "DirtyCleanInterval 30\nDirtyCleanInterval 0\n", dirty,
-             u"DirtyCleanInterval 0"_s);
-        good("a wrong line does not count", "DirtyCleanInterval 0\nDirtyCleanInterval soon\n", dirty,
-             u"DirtyCleanInterval 0"_s);
-        row("the last line counts against it", "DirtyCleanInterval 0\nDirtyCleanInterval 30\n", dirty,
-            putDirty.arg(instead.arg("30"_L1)));
-        row("a comment", "# DirtyCleanInterval 0\n#DirtyCleanInterval 0\n", dirty, putDirty.arg(QString()));
-        row("a wrong unit", "DirtyCleanInterval 0s\n", dirty, putDirty.arg(QString()));
-        row("two values", "DirtyCleanInterval 0 0\n", dirty, putDirty.arg(QString()));
-        row("a longer name", "DirtyCleanIntervals 0\n", dirty, putDirty.arg(QString()));
-        row("no value", "DirtyCleanInterval\n0\n", dirty, putDirty.arg(QString()));
-        row("minutes", "DirtyCleanInterval 2m\n", dirty, putDirty.arg(instead.arg("2m"_L1)));
-        for (const char *yes : {"Yes", "yes", "ON", "True", "enabled", "1", "2"})
-            good(yes, QByteArray("SyncOnClose ") + yes + '\n', sync,
-                 u"SyncOnClose "_s + QLatin1StringView(yes));
-        for (const char *no : {"No", "OFF", "false", "Disabled", "0"})
-            row(no, QByteArray("SyncOnClose ") + no + '\n', sync,
-                putSync.arg(instead.arg(QLatin1StringView(no))));
-        row("no word of the server's", "SyncOnClose perhaps\n", sync, putSync.arg(QString()));
-        good("a history", "PreserveJobHistory On\n", history, u"PreserveJobHistory On"_s);
-        good("a history of a week", "PreserveJobHistory 1W\n", history, u"PreserveJobHistory 1W"_s);
-        good("half a day", "PreserveJobHistory 0.5d\n", history, u"PreserveJobHistory 0.5d"_s);
-        row("no history", "PreserveJobHistory No\n", history, putHistory.arg(instead.arg("No"_L1)));
-        row("a short history", "PreserveJobHistory 300\n", history, putHistory.arg(instead.arg("300"_L1)));
-        good("files", "PreserveJobFiles Yes\n", files, u"PreserveJobFiles Yes"_s);
-        row("no files", "PreserveJobFiles No\n", files, putFiles.arg(instead.arg("No"_L1)));
-        row("files for an hour", "PreserveJobFiles 1h\n", files, putFiles.arg(instead.arg("1h"_L1)));
+        row("a line", "DirtyCleanInterval 0\n", "DirtyCleanInterval 0");
+        row("letters and blanks", "LogLevel warn\n \tdirtycleaninterval \t 0 \t\nMaxClients 9\n",
+            "DirtyCleanInterval 0");
+        row("no line end", "DirtyCleanInterval 0", "DirtyCleanInterval 0");
+        row("a comment behind it", "DirtyCleanInterval 0 # at once\n", "DirtyCleanInterval 0");
+        row("no time", "DirtyCleanInterval Off\n", "DirtyCleanInterval Off");
+        row("no hours", "DirtyCleanInterval 0h\n", "DirtyCleanInterval 0h");
+        row("the last line counts", "DirtyCleanInterval 30\nDirtyCleanInterval 0\n", "DirtyCleanInterval 0");
+        row("a wrong line does not count", "MaxJobTime 0\nMaxJobTime soon\n", "MaxJobTime 0");
+        row("a history", "PreserveJobHistory On\n", "PreserveJobHistory On");
+        row("a history of a week", "PreserveJobHistory 1W\n", "PreserveJobHistory 1W");
+        row("half a day", "PreserveJobHistory 0.5d\n", "PreserveJobHistory 0.5d");
+        row("files", "PreserveJobFiles Yes\n", "PreserveJobFiles Yes");
+        for (const QByteArray yes : {"Yes", "yes", "ON", "True", "enabled", "1", "2"})
+            QTest::newRow(yes) << u"cups-files.conf"_s << "SyncOnClose " + yes + '\n' << "SyncOnClose " + yes;
     }
-    void lines()
+    void goodLines()
     {
         QFETCH(QString, file);
         QFETCH(QByteArray, content);
-        QFETCH(QString, setting);
+        QFETCH(QByteArray, line);
         const ScratchFolder folder;
         folder.write(file, content);
-        QTEST(adviceOn(folder, setting), "advice");
+        QCOMPARE(adviceOn(folder, QString::fromUtf8(line.split(' ').first())),
+                 u"F/%1 has \"%2\": good."_s.arg(file, QString::fromUtf8(line)));
+    }
+
+    void badLines_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("good");
+        QTest::addColumn<QString>("place");
+        const auto row = [](const char *name, const QByteArray &content, const char *good,
+                            const QString &place = {}) {
+            QTest::newRow(name) << content << QString::fromUtf8(good) << place;
+        };
+        row("the last line counts", "MaxJobTime 0\nMaxJobTime 30\n", "MaxJobTime 0",
+            u", in place of \"30\","_s);
+        row("a comment", "# MaxJobTime 0\n#MaxJobTime 0\n", "MaxJobTime 0");
+        row("a wrong unit", "MaxJobTime 0s\n", "MaxJobTime 0");
+        row("two values", "MaxJobTime 0 0\n", "MaxJobTime 0");
+        row("a longer name", "MaxJobTimes 0\n", "MaxJobTime 0");
+        row("no value", "MaxJobTime\n0\n", "MaxJobTime 0");
+        row("minutes", "DirtyCleanInterval 2m\n", "DirtyCleanInterval 0", u", in place of \"2m\","_s);
+        row("no history", "PreserveJobHistory No\n", "PreserveJobHistory Yes", u", in place of \"No\","_s);
+        row("a short history", "PreserveJobHistory 300\n", "PreserveJobHistory Yes",
+            u", in place of \"300\","_s);
+        row("no files", "PreserveJobFiles off\n", "PreserveJobFiles 86400", u", in place of \"off\","_s);
+        row("files for an hour", "PreserveJobFiles 1h\n", "PreserveJobFiles 86400",
+            u", in place of \"1h\","_s);
+        row("no word of the server's", "SyncOnClose perhaps\n", "SyncOnClose Yes");
+        for (const char *no : {"No", "OFF", "false", "Disabled", "0"})
+            row(no, QByteArray("SyncOnClose ") + no + '\n', "SyncOnClose Yes",
+                u", in place of \"%1\","_s.arg(QLatin1StringView(no)));
+    }
+    void badLines()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, good);
+        QFETCH(QString, place);
+        const ScratchFolder folder;
+        const QString file = good.startsWith("SyncOnClose"_L1) ? u"cups-files.conf"_s : u"cupsd.conf"_s;
+        folder.write(file, content);
+        const QString advice = adviceOn(folder, good.section(u' ', 0, 0));
+        const QString wanted =
+            u"Put \"%1\" into F/%2%3 and restart cups; without it, "_s.arg(good, file, place);
+        QVERIFY2(advice.startsWith(wanted), qPrintable(advice));
     }
 
     /// That would read as "not set", and as if somebody had to set it.
@@ -173,6 +170,20 @@ private Q_SLOTS:
                  "  cups-files.conf: SyncOnClose Yes\n"
                  "  cupsd.conf: PreserveJobHistory Yes\n"
                  "  cupsd.conf: PreserveJobFiles 86400\n"_s);
+    }
+
+    void theDocumentListsThem()
+    {
+        const QString advice = adviceOnServer(u"till2.example"_s);
+        QFile file(QStringLiteral(PALVESTRIN_SOURCE_DIR "/docs/printing.md"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QStringList rows = QString::fromUtf8(file.readAll()).split(u'\n').filter(u"| `/etc/cups/"_s);
+        QCOMPARE(rows.size(), qsizetype(5));
+        for (const QString &row : rows) {
+            const QStringList parts = row.split(u'`'); // "| `/etc/cups/FILE` | `NAME VALUE`"
+            const QString line = u"  %1: %2\n"_s.arg(parts[1].section(u'/', -1), parts[3]);
+            QVERIFY2(advice.contains(line), qPrintable(line));
+        }
     }
 
     void serversOfThisMachine()
