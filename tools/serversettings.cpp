@@ -15,7 +15,7 @@ namespace {
 
 constexpr double always = std::numeric_limits<double>::infinity();
 /// Seconds; the backend looks for jobs that began so long ago.
-constexpr double halfADay = 12 * 60 * 60;
+constexpr double aDay = 24 * 60 * 60;
 
 /// A line of the server's files. Times are in seconds; Yes is for ever, and No is none.
 struct ServerSetting
@@ -36,9 +36,9 @@ constexpr ServerSetting settings[] = {
      "jobs are cancelled that wait long for their printer, usually three hours"_L1},
     {"cups-files.conf"_L1, "SyncOnClose"_L1, "Yes"_L1, 1, always, "No"_L1,
      "jobs are lost when the power fails"_L1},
-    {"cupsd.conf"_L1, "PreserveJobHistory"_L1, "Yes"_L1, halfADay, always, "Yes"_L1,
+    {"cupsd.conf"_L1, "PreserveJobHistory"_L1, "Yes"_L1, aDay, always, "Yes"_L1,
      "the server forgets what became of a job, and nobody can tell whether it was printed"_L1},
-    {"cupsd.conf"_L1, "PreserveJobFiles"_L1, "86400"_L1, halfADay, always, "86400"_L1,
+    {"cupsd.conf"_L1, "PreserveJobFiles"_L1, "86400"_L1, aDay, always, "86400"_L1,
      "a job whose backend was killed cannot be started again"_L1},
 };
 

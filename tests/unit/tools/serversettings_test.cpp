@@ -87,7 +87,7 @@ private Q_SLOTS:
         row("a wrong line does not count", "MaxJobTime 0\nMaxJobTime soon\n", "MaxJobTime 0");
         row("a history", "PreserveJobHistory On\n", "PreserveJobHistory On");
         row("a history of a week", "PreserveJobHistory 1W\n", "PreserveJobHistory 1W");
-        row("half a day", "PreserveJobHistory 0.5d\n", "PreserveJobHistory 0.5d");
+        row("a day", "PreserveJobHistory 1440m\n", "PreserveJobHistory 1440m");
         row("files", "PreserveJobFiles Yes\n", "PreserveJobFiles Yes");
         for (const QByteArray yes : {"Yes", "yes", "ON", "True", "enabled", "1", "2"})
             QTest::newRow(yes) << u"cups-files.conf"_s << "SyncOnClose " + yes + '\n' << "SyncOnClose " + yes;
@@ -124,6 +124,8 @@ private Q_SLOTS:
         row("a short history", "PreserveJobHistory 300\n", "PreserveJobHistory Yes",
             u", in place of \"300\","_s);
         row("no files", "PreserveJobFiles off\n", "PreserveJobFiles 86400", u", in place of \"off\","_s);
+        row("files for half a day", "PreserveJobFiles 0.5d\n", "PreserveJobFiles 86400",
+            u", in place of \"0.5d\","_s);
         row("files for an hour", "PreserveJobFiles 1h\n", "PreserveJobFiles 86400",
             u", in place of \"1h\","_s);
         row("no word of the server's", "SyncOnClose perhaps\n", "SyncOnClose Yes");
