@@ -76,13 +76,22 @@ std::string takeBaud(std::string_view value, DeviceAddress &address)
     return {};
 }
 
+std::string takeFlow(std::string_view value, DeviceAddress &address)
+{
+    if (value != "software" && value != "hardware")
+        return "flow is one of software and hardware";
+    address.flow = value == "software" ? DeviceAddress::Flow::Software : DeviceAddress::Flow::Hardware;
+    return {};
+}
+
 struct OptionKind
 {
     std::string_view name;
     std::string (*take)(std::string_view value, DeviceAddress &address); ///< returns what is wrong
 };
 
-constexpr OptionKind optionKinds[] = {{"status", takeStatus}, {"wait", takeWait}, {"baud", takeBaud}};
+constexpr OptionKind optionKinds[] = {
+    {"status", takeStatus}, {"wait", takeWait}, {"baud", takeBaud}, {"flow", takeFlow}};
 
 std::string takeOption(std::string_view option, DeviceAddress &address)
 {
@@ -92,7 +101,7 @@ std::string takeOption(std::string_view option, DeviceAddress &address)
         if (name == kind.name && equals != std::string_view::npos)
             return kind.take(option.substr(equals + 1), address);
     }
-    return "there is no option \"" + std::string(option) + "\"; there are status, wait and baud";
+    return "there is no option \"" + std::string(option) + "\"; there are status, wait, baud and flow";
 }
 
 std::string takeOptions(std::string_view options, DeviceAddress &address)

@@ -25,6 +25,12 @@ struct DeviceAddress
     Status status = Status::Ask;
     /// How long no sign of life is borne once bytes have gone out.
     std::chrono::seconds wait{300};
+    /// How a serial line is told that the printer can take no more.
+    enum class Flow {
+        Software, ///< by bytes: XOFF and XON; wires as they are set
+        Hardware, ///< by the wires RTS and CTS
+    };
+    Flow flow = Flow::Software;
     int baud = 0; ///< of a serial line, of deliver/serialspeeds.h; 0: as it is set
 
     /// "192.0.2.7, port 9100" or "/dev/usb/lp0".

@@ -138,7 +138,7 @@ PrinterChannel::Event PrinterChannel::openDevice()
         return broken(errno);
     if (!S_ISCHR(device.st_mode))
         return broken(ENODEV);
-    if (isatty(descriptor) && !setUpSerialLine(descriptor, where.baud))
+    if (isatty(descriptor) && !setUpSerialLine(descriptor, where))
         return broken(errno);
     return Event::Ready;
 }

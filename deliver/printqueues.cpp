@@ -129,6 +129,23 @@ PrintJob::State stateOf(const Answer &job)
     }
 }
 
+/// Null when the server does not answer.
+Answer attributesOf(int job)
+{
+    ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(job);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    return {cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"), ippDelete};
+}
+
+/// Also when that cannot be told.
+bool wasStarted(int job)
+{
+    const Answer answer = attributesOf(job);
+    return !answer || ippFindAttribute(answer.get(), "time-at-processing", IPP_TAG_INTEGER);
+}
+
 /// 0 when the server does not take it.
 int createJob(const QByteArray &queue, const QByteArray &title, int copies)
 {
@@ -188,30 +205,31 @@ std::optional<QList<PrintQueue>> printQueues()
     return isAnswered ? std::optional(queues) : std::nullopt;
 }
 
-std::optional<int> submitJob(const QString &queue, const QString &title, QIODevice &data, int copies)
+std::optional<int> submitJob(const QString &queue, const QString &title, QIODevice &data, int copies,
+                             QString &trouble)
 {
     const QByteArray name = queue.toUtf8();
     const QByteArray shown = title.toUtf8();
     const int job = createJob(name, shown, copies);
-    if (job == 0)
+    if (job == 0) {
+        trouble = serverTrouble();
         return {};
+    }
     const http_status_t begun =
         cupsStartDocument(CUPS_HTTP_DEFAULT, name.constData(), job, shown.constData(), CUPS_FORMAT_RAW, 1);
     const bool isSent = begun == HTTP_STATUS_CONTINUE && sendData(data);
     if (isSent && cupsFinishDocument(CUPS_HTTP_DEFAULT, name.constData()) <= IPP_STATUS_OK_EVENTS_COMPLETE)
         return job;
-    if (cupsCancelJob2(CUPS_HTTP_DEFAULT, name.constData(), job, 0) <= IPP_STATUS_OK_EVENTS_COMPLETE)
-        return {};
-    return job; // the answer was lost, and perhaps not the job
+    trouble = serverTrouble();
+    const bool isCancelled =
+        cupsCancelJob2(CUPS_HTTP_DEFAULT, name.constData(), job, 0) <= IPP_STATUS_OK_EVENTS_COMPLETE;
+    // The answer was lost, and perhaps not the job: it may be on paper by now, or a part of it.
+    return isCancelled && !wasStarted(job) ? std::nullopt : std::optional(job);
 }
 
 PrintJob printJob(int number)
 {
-    ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
-    const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(number);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    const Answer answer(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"), ippDelete);
+    const Answer answer = attributesOf(number);
     if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND)
         return {};
     if (!answer || cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)

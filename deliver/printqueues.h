@@ -43,8 +43,9 @@ QString queueName(const QString &name);
 /// By name. Empty when the server does not answer.
 std::optional<QList<PrintQueue>> printQueues();
 /// Hands the data to the queue as they are, to be printed `copies` times. Returns the number of the job;
-/// empty when the server does not take it.
-std::optional<int> submitJob(const QString &queue, const QString &title, QIODevice &data, int copies);
+/// empty when the server does not take it; why is told by `trouble`.
+std::optional<int> submitJob(const QString &queue, const QString &title, QIODevice &data, int copies,
+                             QString &trouble);
 PrintJob printJob(int number);
 /// What the server, or the way to it, answered last; for people.
 QString serverTrouble();

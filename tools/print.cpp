@@ -76,8 +76,8 @@ constexpr Outcome outcomes[] = {
      ExitCode::Unknown},
     {PrintJob::State::Failed, "failed"_L1,
      "the job was ended; look at the printer whether a part of it is on paper"_L1, ExitCode::PrintFailed},
-    {PrintJob::State::Waiting, "waiting"_L1, "not printed yet"_L1, ExitCode::StillWaiting},
-    {PrintJob::State::Printing, "waiting"_L1, "not printed yet"_L1, ExitCode::StillWaiting},
+    {PrintJob::State::Waiting, "waiting"_L1, "not over yet"_L1, ExitCode::StillWaiting},
+    {PrintJob::State::Printing, "waiting"_L1, "not over yet"_L1, ExitCode::StillWaiting},
 };
 
 const Outcome &outcomeOf(PrintJob::State state)
@@ -177,11 +177,12 @@ Task taskFor(const CommandLine &line, const FileName &file)
 Submitted submit(const Task &task)
 {
     FinishedOutput output(task.file, Rendering{{}, {}, task.profile});
+    QString trouble;
     const std::optional<int> number =
-        submitJob(task.queue.name, task.file.shown(), output.stream(), copiesToAskFor(output));
+        submitJob(task.queue.name, task.file.shown(), output.stream(), copiesToAskFor(output), trouble);
     if (!number)
         throw CommandError(ExitCode::PrintFailed, task.file,
-                           u"the print server does not take it: %1"_s.arg(serverTrouble()));
+                           u"the print server does not take it: %1"_s.arg(trouble));
     if (task.queue.state == "stopped"_L1)
         printNote(task.file.shown(),
                   u"printer %1 is stopped; \"cupsenable %1\" starts it"_s.arg(task.queue.name));

@@ -50,6 +50,13 @@ private Q_SLOTS:
             QCOMPARE(parsed(("palvestrin:/dev/ttyS0?baud=" + std::to_string(baud)).c_str()).baud, baud);
     }
 
+    void flowControl()
+    {
+        QCOMPARE(parsed("palvestrin:/dev/ttyS0?baud=9600").flow, DeviceAddress::Flow::Software);
+        QCOMPARE(parsed("palvestrin:/dev/ttyS0?flow=software").flow, DeviceAddress::Flow::Software);
+        QCOMPARE(parsed("palvestrin:/dev/ttyS0?baud=9600&flow=hardware").flow, DeviceAddress::Flow::Hardware);
+    }
+
     void whatPeopleName_data()
     {
         QTest::addColumn<QByteArray>("place");
@@ -86,6 +93,7 @@ private Q_SLOTS:
         };
         row("", "it is not of the form palvestrin://HOST or palvestrin:/dev/DEVICE");
         row("socket://kitchen", "it is not of the form palvestrin://HOST or palvestrin:/dev/DEVICE");
+        row("palvestrin:/dev/ttyS0?flow=none", "flow is one of software and hardware");
         row("palvestrin:/etc/passwd", "it names neither a host nor a device below /dev");
         row("palvestrin://kitchen/lp", "behind the host there is no path; options follow a question mark");
         row("palvestrin://kitchen?status=maybe", "status is one of required, ask and never");
@@ -114,7 +122,7 @@ private Q_SLOTS:
         row("palvestrin://the%20kitchen", "no host is called \"the kitchen\"");
         row("palvestrin://root@kitchen", "printers have no users; before the host there is nothing");
         row("palvestrin://kitchen?stat=never",
-            "there is no option \"stat=never\"; there are status, wait and baud");
+            "there is no option \"stat=never\"; there are status, wait, baud and flow");
     }
     void wrongOnes()
     {

@@ -270,6 +270,17 @@ private Q_SLOTS:
         QCOMPARE(rowsWith(u"PRECONTO"_s), before + 1);
     }
 
+    /// Without a queue of the till's own; `ServerName` says the same as the variable.
+    void anotherMachineIsAskedItself()
+    {
+        const QString address = u"CUPS_SERVER=127.0.0.1:%1"_s.arg(server.port());
+        const int before = rowsWith(u"PRECONTO"_s);
+        const ProgramRun outcome = runProgram(QStringLiteral(PALVESTRIN_PROGRAM), {u"print"_s, job},
+                                              environment() + QStringList{address});
+        QVERIFY2(outcome.standardOutput.endsWith(" on Cassa: printed\n"), outcome.standardError);
+        QCOMPARE(rowsWith(u"PRECONTO"_s), before + 1);
+    }
+
     /// A class, by the commands of the document; one of its printers is switched off.
     void anotherPrinterStandsIn()
     {
@@ -472,7 +483,7 @@ private Q_SLOTS:
                 "brackets");
         address("192.0.2.7?wait=never", "wait is a number of seconds from 1 to 86400");
         address("palvestrin://192.0.2.7?retry=1",
-                "there is no option \"retry=1\"; there are status, wait and baud");
+                "there is no option \"retry=1\"; there are status, wait, baud and flow");
         address("palvestrin:/dev/ttyS0?baud=9601",
                 "baud is one of 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200, 230400");
         address("/etc/passwd", "it names neither a host nor a device below /dev");
