@@ -5,6 +5,7 @@
 #include "tokenizer.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -15,13 +16,10 @@ using libconfig::Position;
 class CommandError
 {
 public:
-    CommandError(ExitCode why, const QString &message)
-        : exitCode(why), lines{errorLine(QStringLiteral("palvestrin"), message)}
+    CommandError(ExitCode why, const QString &message) : exitCode(why) { add(message); }
+    CommandError(ExitCode why, const FileName &file, const QString &message) : exitCode(why)
     {
-    }
-    CommandError(ExitCode why, const FileName &file, const QString &message)
-        : exitCode(why), lines{errorLine(file.shown(), message)}
-    {
+        add(file.shown(), message);
     }
     CommandError(ExitCode why, const FileName &file, Position at, const QString &message) : exitCode(why)
     {
@@ -31,23 +29,30 @@ public:
 
     void add(const FileName &file, Position at, const QString &message)
     {
-        const QString place = QStringLiteral(":%1:%2").arg(at.line).arg(at.column);
-        lines.push_back(errorLine(file.shown() + place, message));
+        add(file.shown() + QStringLiteral(":%1:%2").arg(at.line).arg(at.column), message);
     }
 
     /// A message that belongs to no file.
-    void add(const QString &message) { lines.push_back(errorLine(QStringLiteral("palvestrin"), message)); }
+    void add(const QString &message)
+    {
+        lines.push_back(QStringLiteral("palvestrin: error: ") + message);
+        sentences += message.left(1).toUpper() + message.mid(1);
+    }
 
     ExitCode code() const { return exitCode; }
     /// Whole lines of the form "file:line:column: error: what, and what instead", without line ends.
     const std::vector<QString> &messages() const { return lines; }
+    /// The same for windows, which name no program and need not say "error": "file: what, and what instead".
+    const QStringList &reasons() const { return sentences; }
 
 private:
-    static QString errorLine(const QString &place, const QString &message)
+    void add(const QString &place, const QString &message)
     {
-        return place + QStringLiteral(": error: ") + message;
+        lines.push_back(place + QStringLiteral(": error: ") + message);
+        sentences += place + QStringLiteral(": ") + message;
     }
 
     ExitCode exitCode;
     std::vector<QString> lines;
+    QStringList sentences;
 };

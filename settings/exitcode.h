@@ -60,8 +60,9 @@ inline constexpr std::array exitCodeMeanings{
     ExitCodeMeaning{ExitCode::Errors, QLatin1StringView("The check found errors.")},
     ExitCodeMeaning{ExitCode::NotConfirmed,
                     QLatin1StringView("It was sent to a printer that does not confirm what is on paper.")},
-    ExitCodeMeaning{ExitCode::StillWaiting,
-                    QLatin1StringView("It is not printed yet; the print server keeps it.")},
+    ExitCodeMeaning{
+        ExitCode::StillWaiting,
+        QLatin1StringView("It is not over yet: it waits, or is being printed; the print server keeps it.")},
     ExitCodeMeaning{ExitCode::Unknown,
                     QLatin1StringView("Nobody knows whether it is on paper; mostly it is held.")},
     ExitCodeMeaning{ExitCode::PrintFailed,

@@ -192,7 +192,7 @@ Submitted submit(const Task &task)
 Submitted failed(const Task &task, const CommandError &error)
 {
     printErrors(error);
-    const QString message = error.messages().empty() ? QString() : error.messages().front();
+    const QString message = error.reasons().empty() ? QString() : error.reasons().front();
     return {task.file, task.queue.name, 0, {PrintJob::State::Failed, message}};
 }
 

@@ -1,6 +1,7 @@
 #include "filekeeper.h"
 
 #include "commanderror.h"
+#include "errortext.h"
 #include "fieldnames.h"
 #include "mergedialog.h"
 #include "messagebar.h"
@@ -8,18 +9,6 @@
 #include "storage.h"
 
 #include <QMessageBox>
-
-namespace {
-
-QString messagesOf(const CommandError &error)
-{
-    QString text;
-    for (const QString &line : error.messages())
-        text += line + u'\n';
-    return text.trimmed();
-}
-
-} // namespace
 
 QString lastOf(const FileName &path)
 {
@@ -70,7 +59,7 @@ void FileKeeper::lookAtFile()
             bar.tell(tr("Another program has changed the file."), tr("Show what differs\u2026"),
                      [this] { mergeWithFile(); });
     } catch (const CommandError &error) {
-        bar.tell(messagesOf(error));
+        bar.tell(errorText(error));
     }
 }
 
@@ -92,7 +81,7 @@ void FileKeeper::mergeWithFile()
     try {
         merge(std::make_unique<ConfigFile>(model.path()));
     } catch (const CommandError &error) {
-        QMessageBox::critical(&window, tr("The file cannot be read"), messagesOf(error));
+        QMessageBox::critical(&window, tr("The file cannot be read"), errorText(error));
     }
 }
 
@@ -120,7 +109,7 @@ void FileKeeper::reload()
         tellObstacle();
         Q_EMIT done(tr("The file was read again. Undo brings your changes back."));
     } catch (const CommandError &error) {
-        QMessageBox::critical(&window, tr("The file cannot be read"), messagesOf(error));
+        QMessageBox::critical(&window, tr("The file cannot be read"), errorText(error));
     }
 }
 
@@ -171,7 +160,7 @@ bool FileKeeper::save()
             return false;
         write();
     } catch (const CommandError &error) {
-        QMessageBox::critical(&window, tr("Not saved"), messagesOf(error));
+        QMessageBox::critical(&window, tr("Not saved"), errorText(error));
     }
     return !model.isModified() && !isGone();
 }

@@ -1,7 +1,7 @@
 #include "paperpane.h"
 
-#include "commanderror.h"
 #include "configfile.h"
+#include "errortext.h"
 #include "icons.h"
 #include "localeencoding.h"
 #include "paperview.h"
@@ -207,7 +207,7 @@ void PaperPane::takeStream(const QByteArray &stream, const QString &said)
         if (view->strips().empty())
             view->showMessage(said.isEmpty() ? tr("The job prints nothing.") : said);
     } catch (const CommandError &error) { // more than a picture holds
-        view->showMessage(error.messages().front());
+        view->showMessage(errorText(error));
     }
     note->setText(said);
     note->setVisible(!said.isEmpty() && !view->strips().empty());
@@ -266,6 +266,6 @@ void PaperPane::writePictureTo(const QString &path)
         const bool isPdf = path.endsWith(u".pdf"_s, Qt::CaseInsensitive);
         writePicture(path, isPdf ? pdfPicture(view->strips(), options) : pngPicture(view->strips(), options));
     } catch (const CommandError &error) {
-        QMessageBox::critical(this, tr("Not saved"), error.messages().front());
+        QMessageBox::critical(this, tr("Not saved"), errorText(error));
     }
 }

@@ -1,7 +1,7 @@
 #include "papertask.h"
 
-#include "commanderror.h"
 #include "companion.h"
+#include "errortext.h"
 
 #include <QDir>
 #include <QFile>
@@ -65,7 +65,7 @@ void PaperTask::start()
         process.start(program, {home.filePath(u"job.xml"_s), home.filePath(u"output"_s)},
                       QIODevice::ReadOnly);
     } catch (const CommandError &error) {
-        fail(error.messages().front());
+        fail(errorText(error));
     }
 }
 

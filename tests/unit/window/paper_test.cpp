@@ -201,7 +201,7 @@ private Q_SLOTS:
         SettingsWindow window(folder.write(u"c.conf"_s, kitchenConfiguration));
         window.show();
         QCOMPARE(window.paperPane().paper().accessibleDescription(),
-                 u"palvestrin: error: the program palvestrin-print is not installed; install the package "
+                 u"The program palvestrin-print is not installed; install the package "
                  "palvestrin-print"_s);
     }
 

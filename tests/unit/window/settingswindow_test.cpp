@@ -510,7 +510,7 @@ private Q_SLOTS:
             const Answer ok(QMessageBox::Ok);
             QVERIFY(!window.save());
             QCOMPARE(ok.question(),
-                     path + u": error: another program is writing this file; try again when it is done"_s);
+                     path + u": another program is writing this file; try again when it is done"_s);
         }
         QVERIFY(window.save());
     }
