@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr time_t longAgo = 24 * 60 * 60; // seconds; the server keeps the files of a job no longer
+constexpr time_t longAgo = 24 * 60 * 60; // seconds; for so long the server usually keeps the files of a job
 
 } // namespace
 

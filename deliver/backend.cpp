@@ -101,6 +101,7 @@ private:
     Task taskOfReleased();
     Task taskAfterEnd();
     int retryLater(const std::string &why);
+    int concludeUnreadable();
     int deliver(const Ticket &ticket, Interruptions &interrupted);
     int conclude(Delivery::Outcome outcome, const std::string &why);
     int concludeEarlier();
@@ -114,6 +115,7 @@ private:
     void handBack();
     bool begin();
     void tellUnknown(const std::string &why);
+    std::string markOfCopy() const;
 
     const Job job;
     const DeviceAddress address;
@@ -127,7 +129,10 @@ private:
 int Run::print()
 {
     if (!record->isKept())
-        return retryLater("the folder " + folder + " cannot be written, or others can change it");
+        return retryLater(
+            "the folder " + folder +
+            " cannot be written, or others can change it. Make room on the disk, or give it to root "
+            "alone.");
     const Task what = task();
     if (what == Task::Conclude)
         return concludeEarlier();
@@ -138,9 +143,7 @@ int Run::print()
             "the print server was killed and lists it twice; restart it before you release the job");
     std::optional<Ticket> ticket = ticketOf(job);
     if (!ticket)
-        return retryLater(
-            "the data of the job cannot be read, or there is no room to keep them until they are "
-            "printed");
+        return concludeUnreadable();
     if (ticket->size() == 0) {
         report.warning(std::string(sentence::empty));
         record->set(JobRecord::State::Unconfirmed);
@@ -148,17 +151,30 @@ int Run::print()
     }
     if (what == Task::PrintCopy)
         ticket->markAsCopy();
-    return runGuarded([&](Interruptions &interrupted) { return deliver(*ticket, interrupted); },
-                      [&] { return afterDeath(); });
+    const int code = runGuarded([&](Interruptions &interrupted) { return deliver(*ticket, interrupted); },
+                                [&] { return afterDeath(); });
+    if (code == CUPS_BACKEND_HOLD && isStopPending()) // then the scheduler does not heed the code
+        record->set(JobRecord::State::Sending);
+    return code;
 }
 
 /// For what is the matter with the machine, before anything was sent: it is over by itself, or a person mends
 /// it.
 int Run::retryLater(const std::string &why)
 {
-    report.error("Not printed yet: " + why + ". Look for room on the disk of the print server.");
+    report.error("Not printed yet: " + why);
+    blockStopSignals(); // ended by a signal, it would be taken for one that has printed
     std::this_thread::sleep_for(longRetryPause); // the scheduler starts it again at once
     return hasStandIn ? CUPS_BACKEND_FAILED : CUPS_BACKEND_RETRY_CURRENT;
+}
+
+/// What is on standard input is kept in a file of our own until it is printed.
+int Run::concludeUnreadable()
+{
+    if (!job.file)
+        return retryLater("there is no room to keep the job until it is printed. Make room on the disk.");
+    report.error("Not printed: the data of the job cannot be read. Print it anew, and cancel this job.");
+    return CUPS_BACKEND_HOLD;
 }
 
 /// What is to be done with a job that was started before.
@@ -166,7 +182,8 @@ Run::Task Run::task()
 {
     using State = JobRecord::State;
     switch (record->state()) {
-    case State::New:
+    case State::New: // it may have been cancelled before it was begun, and be wanted after all
+        record->setEndBefore(scheduler::endOf(job.number).value_or(0));
         return Task::Print;
     case State::Sending:
         return Task::Hold;
@@ -216,9 +233,10 @@ int Run::concludeEarlier()
 
 int Run::deliver(const Ticket &ticket, Interruptions &interrupted)
 {
-    // A job that cannot be held is none any more: somebody removed it, guard and all.
+    // Somebody may have removed the job, guard and all.
     interrupted.goesOnAlone = [this] {
-        return scheduler::hold(job.number) || stage.get() != Stage::NothingSent;
+        return scheduler::hold(job.number) || stage.get() != Stage::NothingSent ||
+               !scheduler::isOver(job.number);
     };
     const Delivery::Surroundings surroundings{report, folder, interrupted, [this] { return begin(); },
                                               hasStandIn};
@@ -291,10 +309,12 @@ int Run::conclude(Delivery::Outcome outcome, const std::string &why)
 /// does not say that somebody was told. When somebody else stopped it, the code holds what may be on paper.
 int Run::concludeStopped()
 {
-    const bool isUntouched = stage.get() == Stage::NothingSent;
-    report.info(isUntouched ? "Stopped before anything was printed."
-                            : "Stopped; a part of it may be on paper.");
-    return isUntouched ? CUPS_BACKEND_RETRY_CURRENT : CUPS_BACKEND_HOLD;
+    if (stage.get() == Stage::NothingSent) {
+        report.info("Stopped before anything was printed.");
+        return CUPS_BACKEND_RETRY_CURRENT;
+    }
+    tellUnknown("it was stopped in the middle");
+    return CUPS_BACKEND_HOLD;
 }
 
 int Run::concludePrinted()
@@ -330,13 +350,19 @@ int Run::concludeUnknown(const std::string &why)
 
 void Run::tellUnknown(const std::string &why)
 {
-    const std::optional<Ticket> ticket = job.file ? Ticket::fromFile(job.file) : std::nullopt;
-    const bool isMarked = ticket && ticket->canBeMarked();
     report.error(
         "It is unknown whether \"" + job.title + "\" was printed: " + why +
         ". Look for it at the printer. If it is there, cancel the job; if it is not, or not whole, release "
         "it: it is printed again, " +
-        (isMarked ? "with COPY on top." : "and nothing on it says so."));
+        markOfCopy());
+}
+
+std::string Run::markOfCopy() const
+{
+    if (!job.file)
+        return "with COPY on top where it is for a receipt printer.";
+    const std::optional<Ticket> ticket = Ticket::fromFile(job.file);
+    return ticket && ticket->canBeMarked() ? "with COPY on top." : "and nothing on it says so.";
 }
 
 int Run::afterDeath()
@@ -371,7 +397,7 @@ int runBackend(int argc, char **argv)
     std::string trouble;
     std::optional<DeviceAddress> address = deviceAddress(uri ? uri : "", trouble);
     if (!address) {
-        fprintf(stderr, "ERROR: Not printed: the address of the printer is wrong: %s.\n", trouble.c_str());
+        Report().error("Not printed: the address of the printer is wrong: " + trouble + '.');
         return CUPS_BACKEND_STOP;
     }
     return Run(jobIn(argc, argv), *address).print();

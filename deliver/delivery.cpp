@@ -168,7 +168,7 @@ Delivery::End Delivery::notReady(Event event, const PrinterStatus &status, Clock
 
 Delivery::End Delivery::learnWhetherItProves(Answers known)
 {
-    level = known == Answers::NotAsked ? Answers::Status : known;
+    level = known == Answers::Proof ? Answers::Proof : Answers::Status;
     const bool isRequired = address.status == DeviceAddress::Status::Required;
     if (known == Answers::Proof || (known == Answers::Status && !isRequired))
         return {};
@@ -236,7 +236,7 @@ Delivery::End Delivery::awaitProof(const std::string &id)
             return brokenOff(event, {});
         if (wait.isOver()) {
             if (wait.isHeardReady()) // it was replaced by one that cannot confirm
-                memory->remember(Answers::NotAsked);
+                memory->remember(Answers::Something);
             return unknown("the printer did not confirm it within " + seconds(address.wait));
         }
         if (const int answer = answers.takeStatus();
@@ -356,6 +356,7 @@ Delivery::End Delivery::notPrinted(const std::string &why)
 
 Delivery::End Delivery::unknown(const std::string &why)
 {
+    channel.dropUnsent();
     reason = why;
     return Outcome::Unknown;
 }
@@ -363,8 +364,10 @@ Delivery::End Delivery::unknown(const std::string &why)
 /// For what ended otherwise than hoped, after the first byte.
 Delivery::End Delivery::brokenOff(Event event, const std::string &late)
 {
-    if (event == Event::Stopped)
+    if (event == Event::Stopped) {
+        channel.dropUnsent();
         return Outcome::Stopped;
+    }
     return unknown(event == Event::Late ? late : "the connection broke off: " + channel.trouble());
 }
 

@@ -134,6 +134,20 @@ bool Interruptions::isToStop() const
     return isGivenUp || isReadable(stop);
 }
 
+void blockStopSignals()
+{
+    const sigset_t signals = stopSignals();
+    sigprocmask(SIG_BLOCK, &signals, nullptr);
+}
+
+bool isStopPending()
+{
+    sigset_t pending;
+    sigpending(&pending);
+    const auto isThere = [&pending](int signal) { return sigismember(&pending, signal) == 1; };
+    return isThere(SIGTERM) || isThere(SIGINT) || isThere(SIGHUP);
+}
+
 /// The kernel tells of no parent that died before it was asked to; but then nobody reads the messages any
 /// more.
 void endWithScheduler()

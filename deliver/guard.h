@@ -51,6 +51,11 @@ private:
     const int scheduler; ///< the same
 };
 
+/// From now on signals to stop wait.
+void blockStopSignals();
+/// Whether one of them does.
+bool isStopPending();
+
 /// Has this process end with the scheduler that started it; at once, when that is gone already.
 void endWithScheduler();
 

@@ -127,9 +127,9 @@ bool makeRecordFolder(const std::string &folder)
     return descriptor >= 0;
 }
 
-/// Whether nobody has looked for old records for an hour, for a shop has thousands of them; notes that
-/// somebody does so now.
-bool isSweepDue(const std::string &folder)
+/// Notes that somebody looks for old records now. False when somebody has within the hour: a shop has
+/// thousands of them.
+bool startSweep(const std::string &folder)
 {
     const std::string path = folder + "/swept";
     struct stat last;
@@ -227,7 +227,7 @@ time_t recordsKeptSince(const std::string &folder)
 
 void removeOldRecords(const std::string &folder)
 {
-    if (!isSweepDue(folder))
+    if (!startSweep(folder))
         return;
     DIR *const names = opendir(folder.c_str());
     if (!names)

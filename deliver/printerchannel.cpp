@@ -16,6 +16,7 @@
 #include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <termios.h>
 #include <unistd.h>
 
 namespace {
@@ -194,6 +195,12 @@ PrinterChannel::Event PrinterChannel::read(std::string &bytes, Clock::time_point
         return waitFor(-1, 0, Clock::now() + emptyPause) == Event::Stopped ? Event::Stopped : Event::Ready;
     bytes.assign(piece, std::size_t(length));
     return Event::Ready;
+}
+
+void PrinterChannel::dropUnsent()
+{
+    if (!isNetwork())
+        tcflush(descriptor, TCOFLUSH); // only lines have such bytes
 }
 
 void PrinterChannel::finishWriting()

@@ -40,6 +40,8 @@ public:
     Event read(std::string &bytes, Clock::time_point until);
     /// Tells the printer that nothing more comes. Its answer to that is that it closes its side.
     void finishWriting();
+    /// What a line still keeps shall not come out later, by itself.
+    void dropUnsent();
     /// Bytes on the way that the other side has not taken yet; 0 where nobody knows.
     int bytesOnTheWay() const;
     bool isNetwork() const { return !where.host.empty(); }

@@ -19,9 +19,8 @@ struct AnswersWord
 };
 
 constexpr AnswersWord answersWords[] = {
-    {PrinterMemory::Answers::NotAsked, "not asked\n"},
-    {PrinterMemory::Answers::Nothing, "nothing\n"},
-    {PrinterMemory::Answers::Status, "status\n"},
+    {PrinterMemory::Answers::NotAsked, "not asked\n"},  {PrinterMemory::Answers::Nothing, "nothing\n"},
+    {PrinterMemory::Answers::Something, "something\n"}, {PrinterMemory::Answers::Status, "status\n"},
     {PrinterMemory::Answers::Proof, "proof\n"},
 };
 
@@ -53,7 +52,7 @@ PrinterMemory::Answers PrinterMemory::answers() const
 bool PrinterMemory::hasAnswered() const
 {
     const Answers answers = written();
-    return answers == Answers::Status || answers == Answers::Proof;
+    return answers != Answers::NotAsked && answers != Answers::Nothing;
 }
 
 PrinterMemory::Answers PrinterMemory::written() const

@@ -9,7 +9,8 @@ public:
     enum class Answers {
         NotAsked,
         Nothing,
-        Status, ///< but not whether something is on paper
+        Something, ///< what, is to be found out again
+        Status,    ///< but not whether something is on paper
         Proof,
     };
 
@@ -19,7 +20,8 @@ public:
     /// What is a day old is asked again, unless the printer gave proof: a printer learns nothing, but it may
     /// be replaced.
     Answers answers() const;
-    /// Whether it ever answered, however long ago: then its silence is a trouble, and not its nature.
+    /// Whether it ever answered its status, however long ago: then its silence is a trouble, and not its
+    /// nature.
     bool hasAnswered() const;
     void remember(Answers answers) const;
 

@@ -143,7 +143,8 @@ Answer attributesOf(int job)
 bool wasStarted(int job)
 {
     const Answer answer = attributesOf(job);
-    return !answer || ippFindAttribute(answer.get(), "time-at-processing", IPP_TAG_INTEGER);
+    return !answer || ippGetStatusCode(answer.get()) > IPP_STATUS_OK_EVENTS_COMPLETE ||
+           ippFindAttribute(answer.get(), "time-at-processing", IPP_TAG_INTEGER);
 }
 
 /// 0 when the server does not take it.

@@ -21,8 +21,8 @@ public:
     /// True when the answer was the last one of a round.
     bool take(unsigned char answer);
     const PrinterStatus &status() const { return known; }
-    /// Whether the printer has told how it is, and that nothing stops it.
-    bool isHeardReady() const { return isHeard && known.isReady(); }
+    /// Whether the printer has told how it is, that nothing stops it, and is not silent since.
+    bool isHeardReady() const { return isHeard && !isAsked && known.isReady(); }
     /// A printer that waits for a person may take its time.
     void extend() { until = Clock::now() + longest; }
 

@@ -173,6 +173,15 @@ bool scheduler::hold(int job)
     return isDone(IPP_OP_HOLD_JOB, job);
 }
 
+bool scheduler::isOver(int job)
+{
+    const Answer answer = request(IPP_OP_GET_JOB_ATTRIBUTES, job);
+    if (!isGood(answer))
+        return cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND;
+    ipp_attribute_t *const state = ippFindAttribute(answer.get(), "job-state", IPP_TAG_ENUM);
+    return state && ippGetInteger(state, 0) >= IPP_JSTATE_CANCELED;
+}
+
 bool scheduler::release(int job)
 {
     return isDone(IPP_OP_RELEASE_JOB, job);

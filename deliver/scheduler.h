@@ -19,6 +19,8 @@ std::optional<bool> hasOnce(int job);
 // For a backend whose guard was killed: its exit code reaches nobody.
 
 bool hold(int job);
+/// Whether the job has ended, or was removed. False when the scheduler does not say.
+bool isOver(int job);
 /// Has the scheduler start the job again.
 bool release(int job);
 

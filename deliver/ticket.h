@@ -13,8 +13,8 @@ public:
     static std::optional<Ticket> fromStandardInput(const std::string &folder);
     static std::optional<Ticket> fromFile(const char *path);
 
-    /// What frees any receipt printer from a ticket that was torn: else it would take the first bytes of the
-    /// next one for the rest.
+    /// What frees a receipt printer from a ticket of ours that was torn: else it would take the first bytes
+    /// of the next one for the rest.
     static std::string restOfTorn();
 
     Ticket(Ticket &&other) noexcept;

@@ -105,8 +105,8 @@ private Q_SLOTS:
         QCOMPARE(outcome.exitStatus, 7);
         QCOMPARE(outcome.standardError,
                  "ERROR: Not printed yet: the folder " + place.path(u"cache/palvestrin"_s).toUtf8() +
-                     " cannot be written, or others can change it. Look for room on the "
-                     "disk of the print server.\n");
+                     " cannot be written, or others can change it. Make room on the disk, "
+                     "or give it to root alone.\n");
         QCOMPARE(printer.count(firstRow(5)), 0);
         QVERIFY(QDir(place.path(u"elsewhere"_s)).isEmpty());
     }

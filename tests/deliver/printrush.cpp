@@ -62,11 +62,13 @@ public:
     {
         std::array<int, 2> most{};
         const int first = number;
-        for (const int each : submitRush([&] {
-                 int &peak = most[number - first < rushTickets / 2 ? 0 : 1];
-                 peak = std::max(peak, server.peakOfBackends());
-             }))
-            await(each % printerCount, each);
+        const auto look = [&](int &peak) { peak = std::max(peak, server.peakOfBackends()); };
+        const std::vector<int> tickets =
+            submitRush([&] { look(most[number - first < rushTickets / 2 ? 0 : 1]); });
+        for (const int each : tickets)
+            await(each % printerCount, each, [&] { look(most[1]); });
+        if (most[0] == 0 || most[1] == 0)
+            qFatal("no backend was seen");
         return most;
     }
 
@@ -88,12 +90,14 @@ private:
         }
         return tickets;
     }
-    void await(int place, int ticketNumber) const
+    void await(
+        int place, int ticketNumber, const std::function<void()> &meanwhile = [] {}) const
     {
         const QDeadlineTimer deadline(std::chrono::seconds{patience});
         while (printers[place].count(lastRow(ticketNumber)) == 0) {
             if (deadline.hasExpired())
                 qFatal("ticket %d is not on paper after %d seconds", ticketNumber, patience);
+            meanwhile();
             QTest::qSleep(1);
         }
     }

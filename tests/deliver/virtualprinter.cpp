@@ -157,13 +157,12 @@ void VirtualPrinter::work(int control)
 void VirtualPrinter::accept()
 {
     connection = accept4(listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-    sideIsClosed = false;
     realTime.clear();
 }
 
 bool VirtualPrinter::canReceive() const
 {
-    return connection >= 0 && reads && !sideIsClosed && buffer.size() < bufferSize;
+    return connection >= 0 && reads && buffer.size() < bufferSize;
 }
 
 void VirtualPrinter::receive()
@@ -180,9 +179,7 @@ void VirtualPrinter::receive()
     const ssize_t length = read(connection, bytes.data(), std::size_t(room));
     if (length > 0)
         take(bytes.first(length));
-    else if (length == 0)
-        drop(false);
-    else if (errno != EAGAIN)
+    else if (length == 0 || errno != EAGAIN)
         drop(false);
 }
 

@@ -92,7 +92,6 @@ private:
     int listeningPort = 0;
     int listener = -1;
     int connection = -1;
-    bool sideIsClosed = false;
     QByteArray buffer;
     QByteArray realTime; ///< of a question that is being received
     std::deque<Answer> answers;
