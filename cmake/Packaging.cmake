@@ -78,6 +78,7 @@ prints none twice, and has a person look for what nobody knows. The package
 has models for receipt printers, too.")
 set(CPACK_DEBIAN_CUPS_PACKAGE_DEPENDS "palvestrin-print (= ${PROJECT_VERSION}), cups")
 set(CPACK_DEBIAN_CUPS_PACKAGE_ENHANCES palvestrin-tools)
+set(CPACK_DEBIAN_CUPS_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/cups/postinst)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "palvestrin-desktop, palvestrin-cups")
 
 include(CPack)

@@ -111,6 +111,26 @@ private Q_SLOTS:
         QVERIFY2(depends.contains(QRegularExpression(u"(^|, )cups(,|$)"_s)), qPrintable(depends));
     }
 
+    /// Or the spool would not be put right before the print server starts, until the machine is restarted.
+    void systemdReadsWhatThePackageAdds()
+    {
+        const QString control = folder.filePath(u"control"_s);
+        const ProgramRun unpack =
+            runProgram(u"dpkg-deb"_s, {u"-e"_s, packagePath(u"palvestrin-cups"_s), control}, environment);
+        QCOMPARE(unpack.failure, QString());
+        QFile standIn(control + u"/systemctl"_s);
+        QVERIFY(standIn.open(QIODevice::WriteOnly) && standIn.write("#!/bin/sh\necho \"$*\"\n") > 0);
+        QVERIFY(standIn.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        standIn.close();
+
+        const ProgramRun run =
+            runProgram(control + u"/postinst"_s, {u"configure"_s},
+                       {u"PATH=%1:%2"_s.arg(control, qEnvironmentVariable("PATH")), u"LC_ALL=C.UTF-8"_s});
+        QCOMPARE(run.failure, QString());
+        const bool hasSystemd = QFileInfo(u"/run/systemd/system"_s).isDir();
+        QCOMPARE(run.standardOutput + run.standardError, hasSystemd ? "daemon-reload\n"_ba : QByteArray());
+    }
+
     void everyFileIsInItsPackage_data()
     {
         QTest::addColumn<QString>("package");
