@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr time_t longAgo = 24 * 60 * 60; // seconds; for so long the server usually keeps the files of a job
+constexpr time_t longAgo = 24L * 60 * 60; // seconds; for so long the server usually keeps the files of a job
 
 } // namespace
 
@@ -16,7 +16,7 @@ constexpr time_t longAgo = 24 * 60 * 60; // seconds; for so long the server usua
 void saveAbandonedJobs(const std::string &folder)
 {
     const time_t since = std::max(recordsKeptSince(folder), time(nullptr) - longAgo);
-    for (const scheduler::DoubtfulJob &job : scheduler::doubtfulJobs(since))
-        doubtFreeRecord(folder, job.uuid, [&job] { scheduler::restart(job.number); });
+    for (const scheduler::CompletedJob &job : scheduler::completedJobs(since))
+        doubtFreeRecord(folder, job.uuid, job.isUncounted, [&job] { scheduler::restart(job.number); });
     removeOldRecords(folder);
 }

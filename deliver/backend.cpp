@@ -69,6 +69,16 @@ std::optional<Ticket> ticketOf(const Job &job)
     return ticket;
 }
 
+/// The scheduler takes no notice of a filter that was killed, and hands on what that had written. Where the
+/// documents are sent as they are, the scheduler knows how long they are.
+bool isWhole(const Ticket &ticket, const Job &job)
+{
+    const std::string type = environment("CONTENT_TYPE");
+    const bool isSentAsItIs =
+        type == "application/vnd.cups-raw" || type.starts_with("application/vnd.palvestrin.");
+    return job.file || !isSentAsItIs || ticket.size() >= scheduler::leastSize(job.number);
+}
+
 /// One run of the backend for one job.
 class Run
 {
@@ -102,6 +112,7 @@ private:
     Task taskAfterEnd();
     int retryLater(const std::string &why);
     int concludeUnreadable();
+    int concludeTorn();
     int deliver(const Ticket &ticket, Interruptions &interrupted);
     int conclude(Delivery::Outcome outcome, const std::string &why);
     int concludeEarlier();
@@ -113,7 +124,7 @@ private:
     int afterDeath();
     void lookAfterOthers() const;
     void handBack();
-    bool begin();
+    std::string begin(const Interruptions &interrupted);
     void tellUnknown(const std::string &why);
     std::string markOfCopy() const;
 
@@ -144,6 +155,8 @@ int Run::print()
     std::optional<Ticket> ticket = ticketOf(job);
     if (!ticket)
         return concludeUnreadable();
+    if (!isWhole(*ticket, job))
+        return concludeTorn();
     if (ticket->size() == 0) {
         report.warning(std::string(sentence::empty));
         record->set(JobRecord::State::Unconfirmed);
@@ -174,6 +187,14 @@ int Run::concludeUnreadable()
     if (!job.file)
         return retryLater("there is no room to keep the job until it is printed. Make room on the disk.");
     report.error("Not printed: the data of the job cannot be read. Print it anew, and cancel this job.");
+    return CUPS_BACKEND_HOLD;
+}
+
+int Run::concludeTorn()
+{
+    report.error(
+        "Not printed: a part of the job is missing, because a filter of the print server was killed. "
+        "Release the job.");
     return CUPS_BACKEND_HOLD;
 }
 
@@ -238,7 +259,7 @@ int Run::deliver(const Ticket &ticket, Interruptions &interrupted)
         return scheduler::hold(job.number) || stage.get() != Stage::NothingSent ||
                !scheduler::isOver(job.number);
     };
-    const Delivery::Surroundings surroundings{report, folder, interrupted, [this] { return begin(); },
+    const Delivery::Surroundings surroundings{report, folder, interrupted, [&] { return begin(interrupted); },
                                               hasStandIn};
     std::optional<Delivery> delivery(std::in_place, address, ticket, surroundings);
     const Delivery::Outcome outcome = delivery->run();
@@ -280,12 +301,15 @@ void Run::handBack()
     scheduler::release(job.number);
 }
 
-bool Run::begin()
+/// Without a guard nobody stops what a person has cancelled.
+std::string Run::begin(const Interruptions &interrupted)
 {
+    if (interrupted.isOrphan() && scheduler::isOver(job.number))
+        return "it was cancelled.";
     if (!record->set(JobRecord::State::Sending))
-        return false;
+        return "the record of the job cannot be written; look for room on the disk of the print server.";
     stage.set(Stage::Sending);
-    return true;
+    return {};
 }
 
 int Run::conclude(Delivery::Outcome outcome, const std::string &why)
@@ -319,8 +343,8 @@ int Run::concludeStopped()
 
 int Run::concludePrinted()
 {
-    report.printed(); // first: what the scheduler has counted it does not doubt
     record->set(JobRecord::State::Printed);
+    report.printed();
     report.info("Printed: the printer confirmed it.");
     stage.set(Stage::Finished);
     return CUPS_BACKEND_OK;

@@ -12,10 +12,12 @@ namespace {
 constexpr auto longestPatience = 30s; ///< before the first byte; then the scheduler starts anew
 constexpr auto patienceInClass = 5s;  ///< then the next printer of the class has its turn
 constexpr auto firstAnswer = 10s;     ///< of a printer that was never heard of
+constexpr auto shortestPause = 100ms; ///< between two tries to connect; each is twice as long as the last
 constexpr auto longestPause = 2s;
-constexpr auto closingTime = 5s; ///< for a printer to close its side when it has taken all
-constexpr auto stallTime = 3s;   ///< in which a printer that has paper takes some bytes
-constexpr int slowestLine = 480; ///< bytes a second, half of what a line with 9600 baud carries
+constexpr auto closingTime = 5s;    ///< for a printer to close its side when it has taken all
+constexpr auto staleAnswers = 50ms; ///< until a device has brought what a printer said to somebody else
+constexpr auto stallTime = 3s;      ///< in which a printer that has paper takes some bytes
+constexpr int slowestLine = 480;    ///< bytes a second, half of what a line with 9600 baud carries
 
 std::string seconds(Clock::duration duration)
 {
@@ -81,9 +83,11 @@ Delivery::End Delivery::takePrinter()
 Delivery::End Delivery::reach()
 {
     const Clock::time_point until = Clock::now() + patience();
-    for (Clock::duration pause = 100ms;; pause = std::min<Clock::duration>(2 * pause, longestPause)) {
-        answers = {}; // to questions on an earlier connection
-        const Event event = channel.open(std::max(until, Clock::now() + 1s));
+    for (Clock::duration pause = shortestPause;; pause = std::min<Clock::duration>(2 * pause, longestPause)) {
+        const std::string place = channel.resolve();
+        if (!place.empty() && place != printer) // while another ticket was printed: that is another lock
+            return notPrinted("the printer is at another place now.");
+        const Event event = place.empty() ? Event::Broken : channel.open(std::max(until, Clock::now() + 1s));
         if (event == Event::Stopped)
             return Outcome::Stopped;
         if (event == Event::Ready)
@@ -93,7 +97,17 @@ Delivery::End Delivery::reach()
     }
     around.report.connecting(false);
     around.report.setReason("offline-report", false);
-    return {};
+    return forgetAnswers();
+}
+
+/// To questions on an earlier connection. A device keeps them for the next one who reads, and brings them in
+/// a moment.
+Delivery::End Delivery::forgetAnswers()
+{
+    const bool isStopped = !channel.isNetwork() &&
+                           receiveUntil([] { return false; }, Clock::now() + staleAnswers) == Event::Stopped;
+    answers = {};
+    return isStopped ? End(Outcome::Stopped) : End();
 }
 
 /// Tells why, and waits for the next attempt; ends when there shall be none.
@@ -136,8 +150,7 @@ Delivery::End Delivery::askUntilReady(Answers known)
             around.report.status(status);
             return learnWhetherItProves(known);
         }
-        if (event == Event::Late && known == Answers::NotAsked && !memory->hasAnswered() &&
-            address.status == DeviceAddress::Status::Ask) {
+        if (event == Event::Late && known == Answers::NotAsked && isSilentByNature()) {
             memory->remember(Answers::Nothing);
             return {};
         }
@@ -146,17 +159,26 @@ Delivery::End Delivery::askUntilReady(Answers known)
     }
 }
 
+/// A printer that takes no question, such as one on a serial line that is offline, is not silent.
+bool Delivery::isSilentByNature() const
+{
+    return !memory->hasAnswered() && address.status == DeviceAddress::Status::Ask &&
+           channel.bytesOnTheWay() == 0;
+}
+
 /// Tells why, and waits for the next attempt; ends when there shall be none.
 Delivery::End Delivery::notReady(Event event, const PrinterStatus &status, Clock::time_point until)
 {
-    std::string why = "the connection broke off: " + channel.trouble() + ".";
     if (event == Event::Stopped)
         return Outcome::Stopped;
+    std::string why(status.sentence());
     if (event == Event::Ready) {
         around.report.status(status);
-        why = status.sentence();
-    } else if (event == Event::Late) {
-        why = "the printer takes the connection and does not say how it is; switch it off and on.";
+    } else {
+        why =
+            event == Event::Late
+                ? "the printer takes the connection and does not say how it is; switch it off and on."
+                : "the connection broke off when the printer was asked how it is: " + channel.trouble() + ".";
         around.report.waiting("Not printed yet: " + why);
     }
     if (Clock::now() >= until)
@@ -198,9 +220,8 @@ PrinterChannel::Event Delivery::tryProof()
 
 Delivery::End Delivery::send()
 {
-    if (!around.begin())
-        return notPrinted(
-            "the record of the job cannot be written; look for room on the disk of the print server.");
+    if (const std::string against = around.begin(); !against.empty())
+        return notPrinted(against);
     around.report.info("Printing.");
     for (off_t place = 0; place < ticket.size();) {
         const std::string piece = ticket.piece(place);
@@ -229,9 +250,11 @@ Delivery::End Delivery::awaitProof(const std::string &id)
 {
     ProofWait wait(Clock::now() + address.wait + std::chrono::seconds(ticket.size() / slowestLine),
                    address.wait);
-    while (!answers.hasProof(id)) {
+    for (;;) {
         const Event event =
             receiveUntil([&] { return answers.hasProof(id) || answers.hasStatus(); }, wait.next());
+        if (answers.hasProof(id))
+            break; // also after the time, for the machine may have stood still
         if (event == Event::Broken || event == Event::Stopped)
             return brokenOff(event, {});
         if (wait.isOver()) {
@@ -266,7 +289,7 @@ Delivery::End Delivery::awaitReady()
         if (status.isReady() || around.interrupted.isOrphan()) // nobody can stop a backend without a guard
             return {};
         if (channel.waitFor(-1, 0, Clock::now() + 500ms) == Event::Stopped)
-            return Outcome::Stopped;
+            return brokenOff(Event::Stopped, {});
     }
 }
 
@@ -280,24 +303,26 @@ Delivery::End Delivery::finishUnconfirmed()
     const Clock::time_point until = Clock::now() + address.wait;
     channel.finishWriting();
     const Clock::time_point closes = Clock::now() + std::min<Clock::duration>(closingTime, address.wait);
-    Event event = Event::Ready;
+    Event event = Event::Late;
     if (channel.isNetwork())
         event = receiveUntil([] { return false; }, closes);
-    while (event == Event::Late || event == Event::Ready) {
+    // It may close its side early, and take what is on the way after that.
+    while (event == Event::Late || (event == Event::Broken && channel.isClosedInOrder())) {
+        if (channel.look() == Event::Broken)
+            return brokenOff(Event::Broken, {});
         if (channel.bytesOnTheWay() == 0)
             return Outcome::Unconfirmed;
         if (Clock::now() >= until)
             return unknown("the printer did not take all of it within " + seconds(address.wait));
         event = channel.waitFor(-1, 0, Clock::now() + 100ms);
     }
-    if (event == Event::Broken && channel.isClosedInOrder())
-        return Outcome::Unconfirmed;
     return brokenOff(event, {});
 }
 
 PrinterChannel::Event Delivery::askAll(PrinterStatus &status, Clock::time_point until)
 {
     for (int question = 1; question <= PrinterStatus::questions; ++question) {
+        receiveUntil([] { return false; }, Clock::now());
         answers.takeStatus(); // what nobody asked for
         Event event = sendAll(statusQuestion(question), until);
         if (event == Event::Ready)

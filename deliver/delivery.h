@@ -35,8 +35,9 @@ public:
         Report &report;
         std::string memoryFolder;
         Interruptions &interrupted;
-        std::function<bool()> begin; ///< writes down that bytes go out from now on; without that, none do
-        bool hasStandIn;             ///< another printer can take the ticket
+        /// Writes down that bytes go out from now on. What is against it, part of a sentence; "" for nothing.
+        std::function<std::string()> begin;
+        bool hasStandIn; ///< another printer can take the ticket
     };
 
     Delivery(const DeviceAddress &address, const Ticket &ticket, const Surroundings &surroundings);
@@ -53,8 +54,10 @@ private:
     End findPrinter();
     End takePrinter();
     End reach();
+    End forgetAnswers();
     End ask();
     End askUntilReady(Answers known);
+    bool isSilentByNature() const;
     End learnWhetherItProves(Answers known);
     End send();
     End confirm();

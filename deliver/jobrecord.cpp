@@ -22,7 +22,7 @@ struct StateWord
     time_t keptFor; ///< seconds
 };
 
-constexpr time_t hour = 60 * 60; // seconds
+constexpr time_t hour = 60L * 60; // seconds
 constexpr time_t day = 24 * hour;
 
 constexpr StateWord stateWords[] = {
@@ -200,10 +200,12 @@ std::string identityOf(pid_t process)
     return boot + '/' + std::to_string(process) + '/' + began;
 }
 
-void doubtFreeRecord(const std::string &folder, std::string_view uuid, const std::function<void()> &then)
+void doubtFreeRecord(const std::string &folder, std::string_view uuid, bool evenWithoutRecord,
+                     const std::function<void()> &then)
 {
     const std::string path = folder + '/' + fileName(uuid);
-    const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    const int creates = evenWithoutRecord ? O_CREAT : 0;
+    const int descriptor = open(path.c_str(), O_RDWR | creates | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (descriptor < 0)
         return;
     if (flock(descriptor, LOCK_EX | LOCK_NB) == 0 && isStillThere(descriptor, path)) {

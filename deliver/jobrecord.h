@@ -61,10 +61,11 @@ private:
 std::string identityOf(pid_t process);
 
 /// Calls `then` when the job did not come to an end and nobody has its record open; nobody can open it
-/// meanwhile. By then the record says that bytes may have gone out, whatever it said before: the job is not
-/// taken for one that a person released, and not printed behind the back of a person who has taken it for
-/// lost.
-void doubtFreeRecord(const std::string &folder, std::string_view uuid, const std::function<void()> &then);
+/// meanwhile. A job without a record is doubted, and gets one, when `evenWithoutRecord`. By then the record
+/// says that bytes may have gone out, whatever it said before: the job is not taken for one that a person
+/// released, and not printed behind the back of a person who has taken it for lost.
+void doubtFreeRecord(const std::string &folder, std::string_view uuid, bool evenWithoutRecord,
+                     const std::function<void()> &then);
 /// Since when records have been kept in the folder; now when none are.
 time_t recordsKeptSince(const std::string &folder);
 /// Removes records that nobody needs any more, once an hour.

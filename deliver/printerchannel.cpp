@@ -63,7 +63,8 @@ int millisecondsUntil(Clock::time_point until)
 
 constexpr int underWay = 32 * 1024; ///< bytes at most, so that a printer that takes no more is noticed
 
-/// A dead connection is found out within a minute, a living one that has nothing to say is left alone.
+/// A dead connection on which nothing is under way is found out within a minute, a living one that has
+/// nothing to say is left alone.
 void watch(int connection)
 {
     const auto set = [connection](int level, int option, int value) {
@@ -83,7 +84,8 @@ std::string PrinterChannel::resolve()
 {
     if (!isNetwork()) {
         const std::unique_ptr<char, decltype(&free)> real(realpath(where.path.c_str(), nullptr), free);
-        resolved = real ? real.get() : where.path;
+        resolved = real ? real.get() : "";
+        reason = real ? "" : std::strerror(errno);
         return resolved;
     }
     int error = 0;
@@ -212,8 +214,19 @@ void PrinterChannel::finishWriting()
 int PrinterChannel::bytesOnTheWay() const
 {
     int bytes = 0;
-    if (ioctl(descriptor, isNetwork() ? SIOCOUTQ : TIOCOUTQ, &bytes) == 0)
+    if (ioctl(descriptor, SIOCOUTQ, &bytes) == 0 && bytes > 0) // of a line, too: the same number asks for it
         return bytes;
     pollfd waiting{descriptor, POLLOUT, 0}; // a USB printer is ready for more when it has taken all
     return poll(&waiting, 1, 0) > 0 ? 0 : 1;
+}
+
+/// Without reading: a connection whose other side is closed reads as that, again and again.
+PrinterChannel::Event PrinterChannel::look()
+{
+    if (!isNetwork())
+        return isHungUp(descriptor) ? broken(ENODEV) : Event::Ready;
+    int error = 0;
+    socklen_t length = sizeof error;
+    getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &length);
+    return error == 0 ? Event::Ready : broken(error);
 }

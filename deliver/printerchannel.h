@@ -10,7 +10,7 @@
 using Clock = std::chrono::steady_clock;
 
 /// The line to a printer: a TCP connection, or a device. Nothing here waits longer than it is told to, and
-/// each wait ends when the backend is to stop.
+/// each wait ends when the backend is to stop; only a name server may take its time.
 class PrinterChannel
 {
 public:
@@ -29,7 +29,7 @@ public:
     PrinterChannel(const PrinterChannel &) = delete;
     PrinterChannel &operator=(const PrinterChannel &) = delete;
 
-    /// Finds the printer's address. "" when there is none now.
+    /// Finds the printer's address. "" when there is none now; `trouble` says why.
     std::string resolve();
     Event open(Clock::time_point until);
     void close();
@@ -42,10 +42,12 @@ public:
     void finishWriting();
     /// What a line still keeps shall not come out later, by itself.
     void dropUnsent();
+    /// Broken when the device is gone, or the connection with what is under way.
+    Event look();
     /// Bytes on the way that the other side has not taken yet; 0 where nobody knows.
     int bytesOnTheWay() const;
     bool isNetwork() const { return !where.host.empty(); }
-    /// Whether the printer closed its side when nothing was missing.
+    /// Whether it is broken because the printer closed its side; it may still take what is on the way.
     bool isClosedInOrder() const { return closedInOrder; }
     /// Why it is broken, for people: "connection refused".
     const std::string &trouble() const { return reason; }

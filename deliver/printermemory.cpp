@@ -24,7 +24,7 @@ constexpr AnswersWord answersWords[] = {
     {PrinterMemory::Answers::Proof, "proof\n"},
 };
 
-constexpr time_t day = 24 * 60 * 60;
+constexpr time_t day = 24L * 60 * 60; // seconds
 
 bool isOld(const std::string &path)
 {

@@ -3,6 +3,8 @@
 #include "printerchannel.h"
 #include "printerstatus.h"
 
+#include <algorithm>
+
 /// While the proof is waited for, the printer is asked now and then how it is. One question is under way at a
 /// time: the answers do not say which question they answer.
 class ProofWait
@@ -24,7 +26,7 @@ public:
     /// Whether the printer has told how it is, that nothing stops it, and is not silent since.
     bool isHeardReady() const { return isHeard && !isAsked && known.isReady(); }
     /// A printer that waits for a person may take its time.
-    void extend() { until = Clock::now() + longest; }
+    void extend() { until = std::max(until, Clock::now() + longest); }
 
 private:
     static constexpr std::chrono::seconds pause{1};

@@ -90,9 +90,9 @@ struct JobReader
         else if (name == "job-printer-uri-actual")
             printer = textOf(attribute);
     }
-    bool isDoubtful() const
+    bool isCompleted() const
     {
-        return number > 0 && state == IPP_JSTATE_COMPLETED && sheets == 0 && started > 0 && !uuid.empty();
+        return number > 0 && state == IPP_JSTATE_COMPLETED && started > 0 && !uuid.empty();
     }
     /// Where it was printed.
     const std::string &place() const { return printer.empty() ? queue : printer; }
@@ -119,13 +119,12 @@ std::optional<time_t> oursSince(const std::string &queue)
 class Queues
 {
 public:
-    /// Whether a job that was started then went through this backend.
-    bool wereOurs(const std::string &queue, time_t started)
+    std::optional<time_t> areOursSince(const std::string &queue)
     {
         const auto [place, isNew] = known.try_emplace(queue);
         if (isNew)
             place->second = oursSince(queue);
-        return place->second && started >= *place->second;
+        return place->second;
     }
 
 private:
@@ -168,6 +167,18 @@ std::optional<bool> scheduler::hasOnce(int job)
     return std::ranges::count(jobsIn(answer), job, &JobReader::number) == 1;
 }
 
+long long scheduler::leastSize(int job)
+{
+    const Answer answer = request(IPP_OP_GET_JOB_ATTRIBUTES, job);
+    if (!isGood(answer))
+        return 0;
+    const auto number = [&answer](const char *name) {
+        return ippGetInteger(ippFindAttribute(answer.get(), name, IPP_TAG_INTEGER), 0);
+    };
+    constexpr long long unit = 1024; // each document is rounded up to it
+    return std::max(0, number("job-k-octets") - number("number-of-documents")) * unit;
+}
+
 bool scheduler::hold(int job)
 {
     return isDone(IPP_OP_HOLD_JOB, job);
@@ -187,18 +198,20 @@ bool scheduler::release(int job)
     return isDone(IPP_OP_RELEASE_JOB, job);
 }
 
-std::vector<scheduler::DoubtfulJob> scheduler::doubtfulJobs(time_t since)
+std::vector<scheduler::CompletedJob> scheduler::completedJobs(time_t since)
 {
     const Answer answer = jobs("completed", "limit", jobsLookedAt);
     if (!isGood(answer))
         return {};
-    std::vector<DoubtfulJob> doubtful;
+    std::vector<CompletedJob> completed;
     Queues queues;
     for (const JobReader &job : jobsIn(answer)) {
-        if (job.isDoubtful() && job.started >= since && queues.wereOurs(job.place(), job.started))
-            doubtful.push_back({job.number, job.uuid});
+        if (!job.isCompleted() || job.started < since)
+            continue;
+        if (const std::optional<time_t> ours = queues.areOursSince(job.place()))
+            completed.push_back({job.number, job.uuid, job.sheets == 0 && job.started >= *ours});
     }
-    return doubtful;
+    return completed;
 }
 
 bool scheduler::restart(int job)

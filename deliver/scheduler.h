@@ -16,6 +16,10 @@ std::optional<time_t> endOf(int job);
 /// Empty when it does not say.
 std::optional<bool> hasOnce(int job);
 
+/// How many bytes the documents of the job have together, or less: the scheduler counts KiB. 0 when it does
+/// not say.
+long long leastSize(int job);
+
 // For a backend whose guard was killed: its exit code reaches nobody.
 
 bool hold(int job);
@@ -26,16 +30,19 @@ bool release(int job);
 
 // For jobs whose backend was killed whole.
 
-/// A job that the scheduler takes for printed, though no sheet of it was counted.
-struct DoubtfulJob
+/// A job that the scheduler takes for printed.
+struct CompletedJob
 {
     int number;
     std::string uuid;
+    /// No sheet of it was counted, and its queue has been as it is since before. That tells of a job without
+    /// a record; else the record tells more: filters count sheets, too, and so did an earlier run of the job.
+    bool isUncounted;
 };
 
-/// Those among the jobs that ended last which were started `since` then, on a queue that was one of this
-/// backend.
-std::vector<DoubtfulJob> doubtfulJobs(time_t since);
+/// Those among the jobs that ended last which were started `since` then, on queues that are of this backend
+/// now.
+std::vector<CompletedJob> completedJobs(time_t since);
 /// Has a job that ended started again.
 bool restart(int job);
 

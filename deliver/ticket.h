@@ -4,8 +4,8 @@
 #include <string>
 #include <sys/types.h>
 
-/// The bytes of one job, all of them there before the first one is sent: a filter that dies in the middle
-/// leaves no half of a ticket.
+/// The bytes of one job, all of them there before the first one is sent: nothing is begun that cannot be
+/// ended for want of data.
 class Ticket
 {
 public:

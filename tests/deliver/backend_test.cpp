@@ -13,7 +13,7 @@ class BackendTest : public QObject
 
 private:
     PrinterProcess printer;
-    const ScratchFolder files;
+    const ScratchFolder files{};
 
     static ProgramRun run(const QStringList &words, const QStringList &environment = {})
     {

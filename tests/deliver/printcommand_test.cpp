@@ -25,7 +25,7 @@ class PrintCommandTest : public QObject
 private:
     PrintServer server;
     PrinterProcess printer;
-    const ScratchFolder home;
+    const ScratchFolder home{};
     const QString job = example(u"printFullOrder"_s); // it names the printer Cassa
 
     static QString example(const QString &name)
@@ -347,7 +347,7 @@ private Q_SLOTS:
         const ProgramRun outcome = run(words);
         QCOMPARE(outcome.exitStatus, 16);
         QStringList ends;
-        for (const QJsonValue &each : QJsonDocument::fromJson(outcome.standardOutput).array())
+        for (const auto &each : QJsonDocument::fromJson(outcome.standardOutput).array())
             ends += each.toObject().value(u"outcome"_s).toString();
         QCOMPARE(ends, (QStringList{u"printed"_s, u"failed"_s, u"printed"_s}));
         QVERIFY2(outcome.standardError.startsWith("/missing.xml: error: "), outcome.standardError);
@@ -544,7 +544,7 @@ private Q_SLOTS:
         const ProgramRun added = run({u"printers"_s, u"add"_s, u"Sala <2>"_s, given, u"--model"_s, model});
         QVERIFY2(added.failure.isEmpty(), added.standardError);
         QString uri;
-        for (const QJsonValue &each :
+        for (const auto &each :
              QJsonDocument::fromJson(run({u"printers"_s, u"--json"_s}).standardOutput).array()) {
             if (each.toObject().value(u"name"_s) == u"Sala__2>"_s)
                 uri = each.toObject().value(u"address"_s).toString();

@@ -2,6 +2,7 @@
 
 #include "program.h"
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QTest>
@@ -158,13 +159,7 @@ void PrintServer::start(Spool spool)
                                          scratch.path(u"cups-files.conf"_s)});
     if (!server->waitForStarted())
         qFatal("the test needs a print server: install the package cups-daemon");
-    for (QElapsedTimer timer =
-             [] {
-                 QElapsedTimer t;
-                 t.start();
-                 return t;
-             }();
-         timer.elapsed() < 30'000; QTest::qSleep(20)) {
+    for (const QDeadlineTimer patience(30'000); !patience.hasExpired(); QTest::qSleep(20)) {
         if (ask(socket(), IPP_OP_CUPS_GET_PRINTERS, "printer-uri", "ipp://localhost/"))
             return;
     }

@@ -33,6 +33,42 @@ constexpr int longTicketMemory = 64'000;
 constexpr int longTicketMemory = 300;
 #endif
 
+/// One that takes a connection, and nothing of what comes.
+class RawPrinter
+{
+public:
+    RawPrinter()
+    {
+        const int few = 2048; // bytes that the system takes for it
+        setsockopt(listener, SOL_SOCKET, SO_RCVBUF, &few, sizeof few);
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof address;
+        if (bind(listener, reinterpret_cast<sockaddr *>(&address), length) != 0 || listen(listener, 1) != 0 ||
+            getsockname(listener, reinterpret_cast<sockaddr *>(&address), &length) != 0)
+            qFatal("the raw printer cannot listen");
+    }
+    ~RawPrinter()
+    {
+        close(connection);
+        close(listener);
+    }
+    RawPrinter(const RawPrinter &) = delete;
+    RawPrinter &operator=(const RawPrinter &) = delete;
+
+    QByteArray uri(const QByteArray &options) const
+    {
+        return "palvestrin://127.0.0.1:" + QByteArray::number(ntohs(address.sin_port)) + "/?" + options;
+    }
+    void accept() { connection = ::accept4(listener, nullptr, nullptr, SOCK_CLOEXEC); }
+    void closeItsSide() const { shutdown(connection, SHUT_WR); }
+
+private:
+    const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    int connection = -1;
+    sockaddr_in address{};
+};
+
 } // namespace
 
 class PrintServerTest : public QObject
@@ -86,28 +122,6 @@ private:
             _exit(1);
         for (;;)
             pause();
-    }
-    /// What comes from the other end of a line, until it has sent `most` bytes or is silent for so long.
-    static QByteArray receive(int line, qsizetype most, int milliseconds)
-    {
-        QByteArray bytes;
-        QElapsedTimer silence;
-        silence.start();
-        while (bytes.size() < most && silence.elapsed() < milliseconds) {
-            char piece[4096];
-            pollfd waiting{line, POLLIN, 0};
-            const ssize_t length =
-                poll(&waiting, 1, milliseconds) > 0
-                    ? read(line, piece, std::size_t(std::min(qsizetype(sizeof piece), most - bytes.size())))
-                    : 0;
-            if (length > 0) {
-                bytes.append(piece, length);
-                silence.start();
-            } else { // the other end is not open yet, or not any more
-                QTest::qSleep(5);
-            }
-        }
-        return bytes;
     }
     static bool isWhole(const PrinterProcess &printer, int ticket)
     {
@@ -615,9 +629,15 @@ private Q_SLOTS:
 
         server.kill(); // who looked before must look again: nobody knows whether the server kept the hold
         server.start();
-        QTest::qSleep(500);
-        QCOMPARE(server.job(job).state, int(JobInfo::Held));
+        const qsizetype told = server.logOf(job).count("printing it was interrupted");
+        server.release(job);
+        QTRY_COMPARE_WITH_TIMEOUT(server.logOf(job).count("printing it was interrupted"), told + 1, 10'000);
+        QCOMPARE(server.awaitState(job, {JobInfo::Held}).state, int(JobInfo::Held));
         QVERIFY(isWhole(printer, 17));
+        server.release(job);
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+        QCOMPARE(printer.count(lastRow(17)), 2);
+        QCOMPARE(printer.count(u"COPY"_s), 1);
     }
 
     void eitherProcessOfTheBackendIsKilled_data()
@@ -694,6 +714,72 @@ private Q_SLOTS:
         server.release(job);
         QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
         QCOMPARE(printer.count(lastRow(48)), copies + 1);
+    }
+
+    /// Filters count sheets, so did an earlier run of the job, and a queue may be changed meanwhile.
+    void theRecordTellsOfAnAbandonedJob_data()
+    {
+        QTest::addColumn<QString>("how");
+        QTest::newRow("of several documents") << u"documents"_s;
+        QTest::newRow("printed before") << u"reprint"_s;
+        QTest::newRow("on a queue that is changed") << u"queue"_s;
+    }
+    void theRecordTellsOfAnAbandonedJob()
+    {
+        QFETCH(QString, how);
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        const ScratchFolder files;
+        const QStringList documents{files.write(u"other"_s, ticket(72))};
+        const bool isReprint = how == "reprint"_L1;
+        if (!isReprint)
+            printer.habit("paper 3");
+        const int job = server.submit(queue, ticket(71), how == "documents"_L1 ? documents : QStringList());
+        if (isReprint) {
+            QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 1);
+            QTest::qSleep(1100); // the server notes whole seconds
+            printer.habit("paper 3");
+            server.run(u"lp"_s, {u"-i"_s, QString::number(job), u"-H"_s, u"restart"_s});
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        for (const qint64 process : server.backends())
+            ::kill(pid_t(process), SIGKILL);
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).state, int(JobInfo::Completed));
+        if (how == "queue"_L1) {
+            QTest::qSleep(1100);
+            server.run(u"lpadmin"_s, {u"-p"_s, queue, u"-o"_s, u"printer-is-shared=true"_s});
+        }
+        printer.habit("paper 1000");
+        acquaint(queue);
+        QTRY_COMPARE_WITH_TIMEOUT(server.job(job).state, int(JobInfo::Held), 10'000);
+        QVERIFY(server.job(job).message.startsWith("It is unknown whether"));
+    }
+
+    /// The server hands on what it had written, and says nothing.
+    void aFilterIsKilled()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        const QString filters = server.folder() + u"/bin/filter"_s;
+        const QString folder = QFile::symLinkTarget(filters);
+        const ScratchFolder place;
+        const QString killed = place.write(u"killed"_s, "#!/bin/sh\nhead -c 1000 \"$6\"\nkill -9 $$\n");
+        QVERIFY(QFile::setPermissions(killed, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther |
+                                                  QFile::ExeOther));
+        QVERIFY(QFile::remove(filters) && QDir().mkpath(filters));
+        QVERIFY(QFile::copy(killed, filters + u"/gziptoany"_s));
+        const int job = server.submit(queue, ticket(73, 300), {place.write(u"other"_s, ticket(79, 300))});
+        const JobInfo info = server.awaitState(job, {JobInfo::Completed, JobInfo::Held});
+        QVERIFY(QFile::remove(filters + u"/gziptoany"_s) && QDir().rmdir(filters));
+        QVERIFY(QFile::link(folder, filters));
+        QCOMPARE(info.state, int(JobInfo::Held));
+        QCOMPARE(info.message, "Not printed: a part of the job is missing, because a filter of the print "
+                               "server was killed. Release the job.");
+        QCOMPARE(printer.count(firstRow(73)), 0);
+        server.release(job);
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).state, int(JobInfo::Completed));
+        QVERIFY(isWhole(printer, 73) && isWhole(printer, 79));
     }
 
     /// A server that was killed reads all of its jobs twice, where its cache names one that it had not
@@ -855,28 +941,6 @@ private Q_SLOTS:
         }
     }
 
-    /// A device that answers nothing: the other end of a terminal.
-    void aSerialLine()
-    {
-        const int line = posix_openpt(O_RDWR | O_NOCTTY);
-        QVERIFY(line >= 0 && grantpt(line) == 0 && unlockpt(line) == 0);
-        server.addQueue(u"serial"_s,
-                        QByteArray("palvestrin:") + ptsname(line) + "?status=never&wait=5&baud=9600");
-        constexpr int rows = 3000; // more than the line keeps
-        const int job = server.submit(u"serial"_s, ticket(45, rows));
-        // Zeros free it from what was torn before.
-        const QByteArray expected = QByteArray(79, '\0') + ticket(45, rows);
-        QByteArray got = receive(line, 1000, 10'000);
-        QCOMPARE(write(line, "\x13", 1), ssize_t(1)); // it can take no more
-        got += receive(line, expected.size(), 300);
-        QVERIFY2(got.size() < expected.size() / 2, qPrintable(QString::number(got.size())));
-        QCOMPARE(write(line, "\x11", 1), ssize_t(1));
-        got += receive(line, expected.size() - got.size(), 10'000);
-        QCOMPARE(got, expected);
-        QVERIFY(server.awaitState(job, {JobInfo::Completed}).message.startsWith("Sent, but not confirmed"));
-        close(line);
-    }
-
     /// Nobody is left to hear its exit code, so it has the job held while it prints, and released when it is
     /// printed.
     void aBackendWithoutItsGuardTellsTheServerItself_data()
@@ -909,6 +973,85 @@ private Q_SLOTS:
         QCOMPARE(server.job(job).state, end);
         QCOMPARE(printer.count(firstRow(40)), 1);
         QCOMPARE(printer.count(lastRow(40)), copies);
+    }
+
+    void aBackendWithoutItsGuardCannotConfirm()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer, "status=never&wait=20");
+        printer.habit("read off"); // so the backend waits for it to close its side
+        const int job = server.submit(queue, ticket(74));
+        QTRY_VERIFY_WITH_TIMEOUT(server.job(job).message == "Printing.", 10'000);
+        QTRY_COMPARE_WITH_TIMEOUT(server.backends().size(), qsizetype(2), 10'000);
+        ::kill(pid_t(std::ranges::min(server.backends())), SIGKILL);
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed, JobInfo::Held}).state, int(JobInfo::Held));
+        const JobInfo info = server.awaitState(job, {JobInfo::Completed});
+        QVERIFY2(info.message.startsWith("Sent, but not confirmed"), info.message);
+        QCOMPARE(info.sheets, 0);
+        printer.habit("read on");
+        QTRY_VERIFY_WITH_TIMEOUT(isWhole(printer, 74), 5000);
+        QVERIFY(server.backends().isEmpty());
+    }
+
+    /// Nobody else could stop it.
+    void aBackendWithoutItsGuardHeedsThatItsJobIsCancelled()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        server.addQueue(u"beside"_s, printer.uri("wait=2"));
+        printer.habit("paper 3");
+        const int first = server.submit(queue, ticket(75));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        const QList<qint64> others = server.backends();
+        const int job = server.submit(u"beside"_s, ticket(76));
+        QTRY_VERIFY_WITH_TIMEOUT(server.job(job).message.contains("busy with another ticket"), 10'000);
+        QList<qint64> both = server.backends();
+        both.removeIf([&others](qint64 process) { return others.contains(process); });
+        QCOMPARE(both.size(), qsizetype(2));
+        ::kill(pid_t(std::ranges::min(both)), SIGKILL);
+        QCOMPARE(server.awaitState(job, {JobInfo::Held}).state, int(JobInfo::Held));
+        server.run(u"cancel"_s, {QString::number(job)});
+        QCOMPARE(server.job(job).state, int(JobInfo::Canceled));
+        printer.habit("paper 1000");
+        QCOMPARE(server.awaitState(first, {JobInfo::Completed}).sheets, 1);
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 15'000);
+        QCOMPARE(printer.count(firstRow(76)), 0);
+    }
+
+    /// The confirmation came meanwhile.
+    void aMachineStandsStillPastTheTime()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        printer.habit("paper 3");
+        const int job = server.submit(queue, ticket(77));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        const QList<qint64> both = server.backends();
+        for (const qint64 process : both)
+            ::kill(pid_t(process), SIGSTOP);
+        printer.habit("paper 1000");
+        QTest::qSleep(3000);
+        for (const qint64 process : both)
+            ::kill(pid_t(process), SIGCONT);
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed, JobInfo::Held}).state, int(JobInfo::Completed));
+        QVERIFY(isWhole(printer, 77));
+    }
+
+    /// What it has not taken by then is lost.
+    void aPrinterClosesItsSideEarly()
+    {
+        RawPrinter printer;
+        server.addQueue(u"early"_s, printer.uri("status=never&wait=4"));
+        const int job = server.submit(u"early"_s, ticket(78, 1500));
+        printer.accept();
+        QTRY_VERIFY_WITH_TIMEOUT(server.job(job).message == "Printing.", 10'000);
+        QTest::qSleep(1000); // all is written by then, and most of it not taken
+        printer.closeItsSide();
+        const JobInfo info = server.awaitState(job, {JobInfo::Completed, JobInfo::Held});
+        QCOMPARE(info.state, int(JobInfo::Held));
+        QVERIFY2(info.message.contains("the printer did not take all of it within 4 seconds"), info.message);
     }
 
     /// The other printers of a class are no way out of a doubt.
