@@ -15,7 +15,7 @@ struct Place
     qint64 line = 1;
     qint64 column = 1;
 
-    auto operator<=>(const Place &) const = default;
+    auto operator<=>(const Place &) const = default; // NOLINT(modernize-use-nullptr): a mistake of the check
 };
 
 /// Something that is wrong with a text.

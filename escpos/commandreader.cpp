@@ -51,9 +51,9 @@ qint64 dataSize(const PrinterCommand &command)
     case Shape::RasterPicture:
         return qint64(command.wideParameter(1)) * command.wideParameter(3);
     case Shape::ColumnPicture:
-        return command.wideParameter(1) * (command.parameter(0) < 32 ? 1 : 3);
+        return qint64(command.wideParameter(1)) * (command.parameter(0) < 32 ? 1 : 3);
     case Shape::KeptPicture:
-        return command.parameter(0) * command.parameter(1) * 8;
+        return qint64(command.parameter(0)) * command.parameter(1) * 8;
     case Shape::Parameters:
     case Shape::UntilZero:
         break;

@@ -227,7 +227,7 @@ void EscPosPrinterDriver::centre()
         taken += piece.text.size() * sizes[piece.mode.size].width;
     const qint64 room = paperWidth - taken;
     if (taken > 0 && room > 0 && room <= columns::maxWidth)
-        line.insert(line.begin(), {QString(room / (2 * sizes[mode.size].width), u' '), mode});
+        line.insert(line.begin(), {QString(room / 2 / sizes[mode.size].width, u' '), mode});
 }
 
 void EscPosPrinterDriver::sendLine()

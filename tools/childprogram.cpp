@@ -32,6 +32,7 @@ sigset_t endingSignals()
 std::vector<char *> pointersTo(std::vector<QByteArray> &words)
 {
     std::vector<char *> pointers;
+    pointers.reserve(words.size() + 1);
     for (QByteArray &word : words)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);

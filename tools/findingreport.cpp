@@ -44,7 +44,7 @@ void FindingReport::checkFile(const FileName &name, const Check &check)
 void FindingReport::show(const FindingList &list)
 {
     if (line.has(u"json")) {
-        for (const QJsonValue &object : list.asJson())
+        for (const auto &object : list.asJson())
             objects.append(object);
     } else {
         printText(list.asText());

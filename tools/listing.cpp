@@ -104,7 +104,7 @@ std::vector<ListedKey> listedKeys(libconfig::Config &config, const QString &name
     for (const StoredPair &pair : storedPairs(config)) {
         const QString objection = pairObjection(pair.key, pair.isFound);
         // A remark may stand in front of the key.
-        if (!objection.isEmpty() && pair.key.contains(name, Qt::CaseInsensitive))
+        if (!objection.isEmpty() && pair.key.contains(name, Qt::CaseInsensitive)) {
             keys.push_back({pair.key,
                             pair.value,
                             {},
@@ -114,6 +114,7 @@ std::vector<ListedKey> listedKeys(libconfig::Config &config, const QString &name
                             {},
                             objection,
                             pairObjection(pair.key, pair.isFound, inUserLanguage)});
+        }
     }
     return keys;
 }

@@ -257,8 +257,8 @@ void SettingsModel::findNow()
     reasonsFound.clear();
     for (const KeyFinding &one : found)
         reasonsFound[one.key] += asSentence(one.text());
-    if (rowCount() > 0)
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columns - 1));
+    if (const int rows = SettingsModel::rowCount(); rows > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rows - 1, columns - 1));
     Q_EMIT findingsChanged();
 }
 

@@ -15,7 +15,7 @@ namespace {
 char16_t characterOfTheCLibrary(const char *encoding, unsigned char byte)
 {
     const iconv_t converter = iconv_open("UTF-16LE", encoding);
-    if (converter == iconv_t(-1))
+    if (converter == iconv_t(-1)) // NOLINT(performance-no-int-to-ptr): that is how it says so
         qFatal("the C library does not know %s", encoding);
     char in = char(byte);
     char16_t out = CodePage::noCharacter;

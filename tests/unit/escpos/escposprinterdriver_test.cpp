@@ -35,7 +35,7 @@ class EscPosPrinterDriverTest : public QObject
     Q_OBJECT
 
 private:
-    const ConfiguredHome home;
+    const ConfiguredHome home{};
 
 private Q_SLOTS:
     void init() { home.configure("palvestrin: { };"); }

@@ -11,7 +11,7 @@ class LogoTest : public QObject
     Q_OBJECT
 
 private:
-    const ScratchFolder folder;
+    const ScratchFolder folder{};
 
     Logo read(const QByteArray &content, int maxWidth = 384) const
     {

@@ -100,7 +100,7 @@ void unfold(SettingsWindow &window)
 
 } // namespace
 
-class LayoutTest : public QObject
+class WindowLayoutTest : public QObject
 {
     Q_OBJECT
 
@@ -193,5 +193,5 @@ private Q_SLOTS:
     }
 };
 
-WINDOW_TEST_MAIN(LayoutTest)
+WINDOW_TEST_MAIN(WindowLayoutTest)
 #include "layout_test.moc"

@@ -34,7 +34,7 @@ namespace {
 constexpr uid_t nobody = 65534;
 
 /// Accepts the next merge dialog, with `choose` done before.
-void answerMerge(std::function<void(MergeDialog &)> choose)
+void answerMerge(const std::function<void(MergeDialog &)> &choose)
 {
     auto *timer = new QTimer(qApp);
     timer->callOnTimeout([timer, choose] {
