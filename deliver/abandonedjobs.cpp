@@ -13,7 +13,7 @@ constexpr time_t longAgo = 24L * 60 * 60; // seconds; for so long the server usu
 } // namespace
 
 /// Not before records were kept: jobs without one may have been printed some other way.
-void saveAbandonedJobs(const std::string &folder)
+void saveAbandonedJobs(const OwnFolder &folder)
 {
     const time_t since = std::max(recordsKeptSince(folder), time(nullptr) - longAgo);
     for (const scheduler::CompletedJob &job : scheduler::completedJobs(since))

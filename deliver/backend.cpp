@@ -84,10 +84,11 @@ class Run
 {
 public:
     Run(Job itsJob, DeviceAddress itsAddress)
-        : job(std::move(itsJob)), address(std::move(itsAddress)), folder(recordFolder())
+        : job(std::move(itsJob)), address(std::move(itsAddress)), folderPath(recordFolder()),
+          folder(folderPath.empty() ? std::nullopt : OwnFolder::at(folderPath))
     {
-        if (!folder.empty() && !job.uuid.empty())
-            record = std::make_unique<JobRecord>(folder, job.uuid, identityOf(getppid()));
+        if (folder && !job.uuid.empty())
+            record = std::make_unique<JobRecord>(*folder, job.uuid, identityOf(getppid()));
     }
 
     int print();
@@ -107,6 +108,7 @@ private:
         HoldTwice, ///< the same, and the scheduler would start it twice
     };
 
+    bool isRecordKept() const;
     Task task();
     Task taskOfReleased();
     Task taskAfterEnd();
@@ -130,7 +132,8 @@ private:
 
     const Job job;
     const DeviceAddress address;
-    const std::string folder;
+    const std::string folderPath; ///< of the records; "" when none are kept
+    const std::optional<OwnFolder> folder;
     std::unique_ptr<JobRecord> record = std::make_unique<JobRecord>();
     Report report;
     SharedStage stage;
@@ -139,9 +142,9 @@ private:
 
 int Run::print()
 {
-    if (!record->isKept())
+    if (!isRecordKept())
         return retryLater(
-            "the folder " + folder +
+            "the folder " + folderPath +
             " cannot be written, or others can change it. Make room on the disk, or give it to root "
             "alone.");
     const Task what = task();
@@ -169,6 +172,13 @@ int Run::print()
     if (code == CUPS_BACKEND_HOLD && isStopPending()) // then the scheduler does not heed the code
         record->set(JobRecord::State::Sending);
     return code;
+}
+
+/// Without a record nothing may be sent of a job that can be started again.
+bool Run::isRecordKept() const
+{
+    const bool isWanted = !folderPath.empty() && !job.uuid.empty();
+    return !isWanted || (folder && record->isKept());
 }
 
 /// For what is the matter with the machine, before anything was sent: it is over by itself, or a person mends
@@ -259,8 +269,8 @@ int Run::deliver(const Ticket &ticket, Interruptions &interrupted)
         return scheduler::hold(job.number) || stage.get() != Stage::NothingSent ||
                !scheduler::isOver(job.number);
     };
-    const Delivery::Surroundings surroundings{report, folder, interrupted, [&] { return begin(interrupted); },
-                                              hasStandIn};
+    const Delivery::Surroundings surroundings{report, folder ? &*folder : nullptr, interrupted,
+                                              [&] { return begin(interrupted); }, hasStandIn};
     std::optional<Delivery> delivery(std::in_place, address, ticket, surroundings);
     const Delivery::Outcome outcome = delivery->run();
     const std::string why = delivery->why();
@@ -285,8 +295,8 @@ int Run::deliver(const Ticket &ticket, Interruptions &interrupted)
 
 void Run::lookAfterOthers() const
 {
-    if (!folder.empty())
-        saveAbandonedJobs(folder);
+    if (folder)
+        saveAbandonedJobs(*folder);
 }
 
 /// A scheduler whose backend was killed takes the job for printed as soon as nobody holds its pipe. So

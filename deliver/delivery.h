@@ -33,7 +33,7 @@ public:
     struct Surroundings
     {
         Report &report;
-        std::string memoryFolder;
+        const OwnFolder *memoryFolder; ///< null: what printers answer is not kept
         Interruptions &interrupted;
         /// Writes down that bytes go out from now on. What is against it, part of a sentence; "" for nothing.
         std::function<std::string()> begin;

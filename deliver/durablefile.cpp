@@ -1,42 +1,83 @@
 #include "durablefile.h"
 
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
-std::string parentOf(const std::string &path)
+constexpr int asFolder = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+bool syncParentOf(const std::string &path)
 {
-    return path.substr(0, path.rfind('/'));
+    const int parent = open(path.substr(0, path.rfind('/')).c_str(), asFolder);
+    const bool isSynced = parent >= 0 && fsync(parent) == 0;
+    if (parent >= 0)
+        close(parent);
+    return isSynced;
 }
 
-/// Whether it is a folder that nobody else can change.
-bool isOwn(const std::string &path)
+bool isOwn(int descriptor)
 {
     struct stat folder;
-    return lstat(path.c_str(), &folder) == 0 && S_ISDIR(folder.st_mode) && folder.st_uid == geteuid() &&
+    return fstat(descriptor, &folder) == 0 && folder.st_uid == geteuid() &&
            (folder.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
 } // namespace
 
-bool makeFolder(const std::string &path)
+std::optional<OwnFolder> OwnFolder::at(const std::string &path)
 {
-    if (mkdir(path.c_str(), 0700) == 0)
-        return syncFolder(parentOf(path));
-    return errno == EEXIST && isOwn(path);
+    const bool isMade = mkdir(path.c_str(), 0700) == 0;
+    if (isMade ? !syncParentOf(path) : errno != EEXIST)
+        return {};
+    OwnFolder folder(::open(path.c_str(), asFolder | O_NOFOLLOW));
+    if (folder.descriptor < 0 || !isOwn(folder.descriptor))
+        return {};
+    return folder;
 }
 
-bool syncFolder(const std::string &path)
+OwnFolder::OwnFolder(OwnFolder &&other) noexcept : descriptor(std::exchange(other.descriptor, -1)) {}
+
+OwnFolder::~OwnFolder()
 {
-    const int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder < 0)
-        return false;
-    const bool isSynced = fsync(folder) == 0;
-    close(folder);
-    return isSynced;
+    if (descriptor >= 0)
+        close(descriptor);
+}
+
+int OwnFolder::open(const std::string &name, int flags) const
+{
+    return openat(descriptor, name.c_str(), flags | O_CLOEXEC | O_NOFOLLOW, 0600);
+}
+
+std::optional<struct stat> OwnFolder::status(const std::string &name) const
+{
+    struct stat file;
+    if (fstatat(descriptor, name.c_str(), &file, AT_SYMLINK_NOFOLLOW) != 0)
+        return {};
+    return file;
+}
+
+void OwnFolder::remove(const std::string &name) const
+{
+    unlinkat(descriptor, name.c_str(), 0);
+}
+
+void OwnFolder::list(const std::function<void(const std::string &name)> &take) const
+{
+    DIR *const names = fdopendir(openat(descriptor, ".", asFolder));
+    if (!names)
+        return;
+    while (const dirent *entry = readdir(names))
+        take(entry->d_name);
+    closedir(names);
+}
+
+bool OwnFolder::sync() const
+{
+    return fsync(descriptor) == 0;
 }
 
 bool rewriteDurably(int descriptor, std::string_view content)

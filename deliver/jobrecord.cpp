@@ -1,12 +1,9 @@
 #include "jobrecord.h"
 
-#include "durablefile.h"
-
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <ctime>
-#include <dirent.h>
 #include <fcntl.h>
 #include <iterator>
 #include <sys/file.h>
@@ -68,9 +65,9 @@ bool isFinished(JobRecord::State state)
     return state != State::New && state != State::Sending && state != State::Held;
 }
 
-int openLocked(const std::string &path)
+int openLocked(const OwnFolder &folder, const std::string &name)
 {
-    const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    const int descriptor = folder.open(name, O_RDWR | O_CREAT);
     while (descriptor >= 0 && flock(descriptor, LOCK_EX) != 0) {
         if (errno == EINTR)
             continue;
@@ -81,12 +78,11 @@ int openLocked(const std::string &path)
 }
 
 /// Whether the file that was opened is still the one of that name: it may have been removed in between.
-bool isStillThere(int descriptor, const std::string &path)
+bool isStillThere(int descriptor, const OwnFolder &folder, const std::string &name)
 {
     struct stat opened;
-    struct stat named;
-    return fstat(descriptor, &opened) == 0 && stat(path.c_str(), &named) == 0 &&
-           opened.st_ino == named.st_ino;
+    const std::optional<struct stat> named = folder.status(name);
+    return named && fstat(descriptor, &opened) == 0 && opened.st_ino == named->st_ino;
 }
 
 /// The name of a record: letters, digits and dashes, whatever the job calls itself.
@@ -98,30 +94,25 @@ std::string fileName(std::string_view uuid)
     return name + std::string(ending);
 }
 
-void removeIfOld(const std::string &path)
+void removeIfOld(const OwnFolder &folder, const std::string &name)
 {
-    const int descriptor = open(path.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
+    const int descriptor = folder.open(name, O_RDWR);
     if (descriptor < 0)
         return;
     struct stat file;
     const bool isFree = flock(descriptor, LOCK_EX | LOCK_NB) == 0 && fstat(descriptor, &file) == 0;
     if (isFree && time(nullptr) - file.st_mtime > wordIn(contentOf(descriptor)).keptFor)
-        unlink(path.c_str());
+        folder.remove(name);
     close(descriptor);
 }
 
 /// A file that is as old as the folder's oldest record may be.
-std::string ageFile(const std::string &folder)
-{
-    return folder + "/since";
-}
+constexpr const char *ageFile = "since";
 
-/// Makes the folder, and with it the file that tells its age.
-bool makeRecordFolder(const std::string &folder)
+/// Makes the file that tells the folder's age.
+bool keepAge(const OwnFolder &folder)
 {
-    if (!makeFolder(folder))
-        return false;
-    const int descriptor = open(ageFile(folder).c_str(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    const int descriptor = folder.open(ageFile, O_RDONLY | O_CREAT);
     if (descriptor >= 0)
         close(descriptor);
     return descriptor >= 0;
@@ -129,13 +120,13 @@ bool makeRecordFolder(const std::string &folder)
 
 /// Notes that somebody looks for old records now. False when somebody has within the hour: a shop has
 /// thousands of them.
-bool startSweep(const std::string &folder)
+bool startSweep(const OwnFolder &folder)
 {
-    const std::string path = folder + "/swept";
-    struct stat last;
-    if (lstat(path.c_str(), &last) == 0 && std::abs(time(nullptr) - last.st_mtime) < hour)
+    constexpr const char *sweepFile = "swept";
+    const std::optional<struct stat> last = folder.status(sweepFile);
+    if (last && std::abs(time(nullptr) - last->st_mtime) < hour)
         return false;
-    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    const int descriptor = folder.open(sweepFile, O_WRONLY | O_CREAT);
     if (descriptor < 0)
         return false;
     futimens(descriptor, nullptr); // now
@@ -145,18 +136,18 @@ bool startSweep(const std::string &folder)
 
 } // namespace
 
-JobRecord::JobRecord(const std::string &folder, std::string_view uuid, std::string thisScheduler)
-    : isSound(makeRecordFolder(folder)), scheduler(std::move(thisScheduler))
+JobRecord::JobRecord(const OwnFolder &folder, std::string_view uuid, std::string thisScheduler)
+    : isSound(keepAge(folder)), scheduler(std::move(thisScheduler))
 {
     if (!isSound)
         return;
-    const std::string path = folder + '/' + fileName(uuid);
+    const std::string name = fileName(uuid);
     do {
         if (descriptor >= 0)
             close(descriptor);
-        descriptor = openLocked(path);
-    } while (descriptor >= 0 && !isStillThere(descriptor, path));
-    isSound = descriptor >= 0 && syncFolder(folder);
+        descriptor = openLocked(folder, name);
+    } while (descriptor >= 0 && !isStillThere(descriptor, folder, name));
+    isSound = descriptor >= 0 && folder.sync();
     if (isSound)
         read();
 }
@@ -200,15 +191,14 @@ std::string identityOf(pid_t process)
     return boot + '/' + std::to_string(process) + '/' + began;
 }
 
-void doubtFreeRecord(const std::string &folder, std::string_view uuid, bool evenWithoutRecord,
+void doubtFreeRecord(const OwnFolder &folder, std::string_view uuid, bool evenWithoutRecord,
                      const std::function<void()> &then)
 {
-    const std::string path = folder + '/' + fileName(uuid);
-    const int creates = evenWithoutRecord ? O_CREAT : 0;
-    const int descriptor = open(path.c_str(), O_RDWR | creates | O_CLOEXEC | O_NOFOLLOW, 0600);
+    const std::string name = fileName(uuid);
+    const int descriptor = folder.open(name, evenWithoutRecord ? O_RDWR | O_CREAT : O_RDWR);
     if (descriptor < 0)
         return;
-    if (flock(descriptor, LOCK_EX | LOCK_NB) == 0 && isStillThere(descriptor, path)) {
+    if (flock(descriptor, LOCK_EX | LOCK_NB) == 0 && isStillThere(descriptor, folder, name)) {
         const bool isDoubtful = !isFinished(wordIn(contentOf(descriptor)).state);
         if (isDoubtful && rewriteDurably(descriptor, recordText(JobRecord::State::Sending, 0, {})))
             then();
@@ -216,27 +206,25 @@ void doubtFreeRecord(const std::string &folder, std::string_view uuid, bool even
     close(descriptor);
 }
 
-time_t recordsKeptSince(const std::string &folder)
+time_t recordsKeptSince(const OwnFolder &folder)
 {
-    struct stat file;
     const time_t now = time(nullptr);
-    if (stat(ageFile(folder).c_str(), &file) != 0)
-        return now;
-    if (file.st_mtime > now) // the clock was wrong
-        utimensat(AT_FDCWD, ageFile(folder).c_str(), nullptr, AT_SYMLINK_NOFOLLOW);
-    return std::min(file.st_mtime, now);
+    const int descriptor = folder.open(ageFile, O_RDONLY);
+    struct stat file;
+    const bool isKnown = descriptor >= 0 && fstat(descriptor, &file) == 0;
+    if (isKnown && file.st_mtime > now) // the clock was wrong
+        futimens(descriptor, nullptr);
+    if (descriptor >= 0)
+        close(descriptor);
+    return isKnown ? std::min(file.st_mtime, now) : now;
 }
 
-void removeOldRecords(const std::string &folder)
+void removeOldRecords(const OwnFolder &folder)
 {
     if (!startSweep(folder))
         return;
-    DIR *const names = opendir(folder.c_str());
-    if (!names)
-        return;
-    while (const dirent *entry = readdir(names)) {
-        if (std::string_view(entry->d_name).ends_with(ending))
-            removeIfOld(folder + '/' + entry->d_name);
-    }
-    closedir(names);
+    folder.list([&folder](const std::string &name) {
+        if (name.ends_with(ending))
+            removeIfOld(folder, name);
+    });
 }

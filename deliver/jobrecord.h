@@ -1,5 +1,7 @@
 #pragma once
 
+#include "durablefile.h"
+
 #include <ctime>
 #include <functional>
 #include <string>
@@ -28,7 +30,7 @@ public:
     /// No record is kept: nobody will start the job again.
     JobRecord() = default;
     /// Opens the record and waits until nobody else has it. `uuid` is that of the job.
-    JobRecord(const std::string &folder, std::string_view uuid, std::string thisScheduler);
+    JobRecord(const OwnFolder &folder, std::string_view uuid, std::string thisScheduler);
     ~JobRecord();
     JobRecord(const JobRecord &) = delete;
     JobRecord &operator=(const JobRecord &) = delete;
@@ -64,9 +66,9 @@ std::string identityOf(pid_t process);
 /// meanwhile. A job without a record is doubted, and gets one, when `evenWithoutRecord`. By then the record
 /// says that bytes may have gone out, whatever it said before: the job is not taken for one that a person
 /// released, and not printed behind the back of a person who has taken it for lost.
-void doubtFreeRecord(const std::string &folder, std::string_view uuid, bool evenWithoutRecord,
+void doubtFreeRecord(const OwnFolder &folder, std::string_view uuid, bool evenWithoutRecord,
                      const std::function<void()> &then);
 /// Since when records have been kept in the folder; now when none are.
-time_t recordsKeptSince(const std::string &folder);
+time_t recordsKeptSince(const OwnFolder &folder);
 /// Removes records that nobody needs any more, once an hour.
-void removeOldRecords(const std::string &folder);
+void removeOldRecords(const OwnFolder &folder);

@@ -6,8 +6,8 @@
 #include <ctime>
 #include <fcntl.h>
 #include <iterator>
+#include <optional>
 #include <string_view>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -26,27 +26,20 @@ constexpr AnswersWord answersWords[] = {
 
 constexpr time_t day = 24L * 60 * 60; // seconds
 
-bool isOld(const std::string &path)
-{
-    struct stat file;
-    return stat(path.c_str(), &file) != 0 || time(nullptr) - file.st_mtime > day;
-}
-
 } // namespace
 
-PrinterMemory::PrinterMemory(const std::string &folder, const std::string &printer)
+PrinterMemory::PrinterMemory(const OwnFolder *itsFolder, const std::string &printer)
+    : folder(itsFolder), name(printer + ".printer")
 {
-    if (folder.empty() || !makeFolder(folder))
-        return;
-    std::string name = printer;
     std::ranges::replace(name, '/', '_');
-    path = folder + '/' + name + ".printer";
 }
 
 PrinterMemory::Answers PrinterMemory::answers() const
 {
     const Answers answers = written();
-    return answers == Answers::Proof || !isOld(path) ? answers : Answers::NotAsked;
+    const std::optional<struct stat> file = folder ? folder->status(name) : std::nullopt;
+    const bool isOld = !file || time(nullptr) - file->st_mtime > day;
+    return answers == Answers::Proof || !isOld ? answers : Answers::NotAsked;
 }
 
 bool PrinterMemory::hasAnswered() const
@@ -57,16 +50,19 @@ bool PrinterMemory::hasAnswered() const
 
 PrinterMemory::Answers PrinterMemory::written() const
 {
-    const std::string content = path.empty() ? "" : contentOf(path);
-    const auto *found = std::ranges::find(answersWords, content, &AnswersWord::word);
+    const int descriptor = folder ? folder->open(name, O_RDONLY) : -1;
+    if (descriptor < 0)
+        return Answers::NotAsked;
+    const auto *found = std::ranges::find(answersWords, contentOf(descriptor), &AnswersWord::word);
+    close(descriptor);
     return found == std::end(answersWords) ? Answers::NotAsked : found->answers;
 }
 
 void PrinterMemory::remember(Answers answers) const
 {
-    if (path.empty() || answers == this->answers())
+    if (!folder || answers == this->answers())
         return;
-    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600);
+    const int descriptor = folder->open(name, O_WRONLY | O_CREAT | O_TRUNC);
     if (descriptor < 0)
         return;
     rewriteDurably(descriptor, std::ranges::find(answersWords, answers, &AnswersWord::answers)->word);

@@ -2,6 +2,8 @@
 
 #include <string>
 
+class OwnFolder;
+
 /// What a printer was found out to answer, kept from job to job.
 class PrinterMemory
 {
@@ -14,8 +16,8 @@ public:
         Proof,
     };
 
-    /// `printer` is its address. An empty folder keeps nothing.
-    PrinterMemory(const std::string &folder, const std::string &printer);
+    /// `printer` is its address. Without a folder nothing is kept; else it must outlive this.
+    PrinterMemory(const OwnFolder *folder, const std::string &printer);
 
     /// What is a day old is asked again, unless the printer gave proof: a printer learns nothing, but it may
     /// be replaced.
@@ -28,5 +30,6 @@ public:
 private:
     Answers written() const;
 
-    std::string path;
+    const OwnFolder *folder;
+    std::string name;
 };
