@@ -17,6 +17,9 @@ void saveAbandonedJobs(const OwnFolder &folder)
 {
     const time_t since = std::max(recordsKeptSince(folder), time(nullptr) - longAgo);
     for (const scheduler::CompletedJob &job : scheduler::completedJobs(since))
-        doubtFreeRecord(folder, job.uuid, job.isUncounted, [&job] { scheduler::restart(job.number); });
+        doubtFreeRecord(folder, job.uuid, job.isUncounted, [&job] {
+            if (scheduler::isOurs(job.queue)) // it may have been moved
+                scheduler::restart(job.number);
+        });
     removeOldRecords(folder);
 }

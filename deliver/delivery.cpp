@@ -84,10 +84,9 @@ Delivery::End Delivery::reach()
 {
     const Clock::time_point until = Clock::now() + patience();
     for (Clock::duration pause = shortestPause;; pause = std::min<Clock::duration>(2 * pause, longestPause)) {
-        const std::string place = channel.resolve();
-        if (!place.empty() && place != printer) // while another ticket was printed: that is another lock
-            return notPrinted("the printer is at another place now.");
-        const Event event = place.empty() ? Event::Broken : channel.open(std::max(until, Clock::now() + 1s));
+        if (!channel.isStillThere()) // it moved while another ticket was printed, and has another lock
+            return notPrinted("the printer is not where it was.");
+        const Event event = channel.open(std::max(until, Clock::now() + 1s));
         if (event == Event::Stopped)
             return Outcome::Stopped;
         if (event == Event::Ready)

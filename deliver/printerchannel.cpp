@@ -34,6 +34,15 @@ AddressList addressesOf(const std::string &host, int port, int &error)
     return {error == 0 ? list : nullptr, freeaddrinfo};
 }
 
+/// "192.0.2.7"; "" when it has none.
+std::string inNumbers(const addrinfo *address)
+{
+    char host[NI_MAXHOST];
+    const int error =
+        getnameinfo(address->ai_addr, address->ai_addrlen, host, sizeof host, nullptr, 0, NI_NUMERICHOST);
+    return error == 0 ? host : "";
+}
+
 /// The address of a host that has several: an old kind of address, where there is one, for every printer has
 /// that. It stays the same, for one job at a time is sent there.
 std::string numberOf(const addrinfo *list)
@@ -41,12 +50,21 @@ std::string numberOf(const addrinfo *list)
     const addrinfo *address = list;
     while (address && address->ai_family != AF_INET)
         address = address->ai_next;
-    if (!address)
-        address = list;
-    char host[NI_MAXHOST];
-    const int error =
-        getnameinfo(address->ai_addr, address->ai_addrlen, host, sizeof host, nullptr, 0, NI_NUMERICHOST);
-    return error == 0 ? host : "";
+    return inNumbers(address ? address : list);
+}
+
+bool isAmong(const addrinfo *list, const std::string &number)
+{
+    while (list && inNumbers(list) != number)
+        list = list->ai_next;
+    return list;
+}
+
+/// The device that the path leads to; "" when there is none.
+std::string deviceAt(const std::string &path)
+{
+    const std::unique_ptr<char, decltype(&free)> real(realpath(path.c_str(), nullptr), free);
+    return real ? real.get() : "";
 }
 
 bool isHungUp(int descriptor)
@@ -83,9 +101,8 @@ void watch(int connection)
 std::string PrinterChannel::resolve()
 {
     if (!isNetwork()) {
-        const std::unique_ptr<char, decltype(&free)> real(realpath(where.path.c_str(), nullptr), free);
-        resolved = real ? real.get() : "";
-        reason = real ? "" : std::strerror(errno);
+        resolved = deviceAt(where.path);
+        reason = resolved.empty() ? std::strerror(errno) : "";
         return resolved;
     }
     int error = 0;
@@ -94,6 +111,16 @@ std::string PrinterChannel::resolve()
     reason = list ? "" : gai_strerror(error);
     resolved = number.empty() ? "" : number + ' ' + std::to_string(where.port);
     return resolved;
+}
+
+/// A host may tell its addresses in another order each time, and a name server may be out of reach.
+bool PrinterChannel::isStillThere() const
+{
+    if (!isNetwork())
+        return deviceAt(where.path) == resolved;
+    int error = 0;
+    const AddressList list = addressesOf(where.host, where.port, error);
+    return !list || isAmong(list.get(), number);
 }
 
 PrinterChannel::Event PrinterChannel::open(Clock::time_point until)

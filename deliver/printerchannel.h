@@ -31,6 +31,8 @@ public:
 
     /// Finds the printer's address. "" when there is none now; `trouble` says why.
     std::string resolve();
+    /// Whether that is its address still, as far as anybody knows.
+    bool isStillThere() const;
     Event open(Clock::time_point until);
     void close();
     /// Writes as much as goes at once; `written` says how much. Ready also when something can be read.

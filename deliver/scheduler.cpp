@@ -119,12 +119,13 @@ std::optional<time_t> oursSince(const std::string &queue)
 class Queues
 {
 public:
-    std::optional<time_t> areOursSince(const std::string &queue)
+    /// Whether a job that was started then went through this backend.
+    bool wereOurs(const std::string &queue, time_t started)
     {
         const auto [place, isNew] = known.try_emplace(queue);
         if (isNew)
             place->second = oursSince(queue);
-        return place->second;
+        return place->second && started >= *place->second;
     }
 
 private:
@@ -206,12 +207,16 @@ std::vector<scheduler::CompletedJob> scheduler::completedJobs(time_t since)
     std::vector<CompletedJob> completed;
     Queues queues;
     for (const JobReader &job : jobsIn(answer)) {
-        if (!job.isCompleted() || job.started < since)
-            continue;
-        if (const std::optional<time_t> ours = queues.areOursSince(job.place()))
-            completed.push_back({job.number, job.uuid, job.sheets == 0 && job.started >= *ours});
+        if (job.isCompleted() && job.started >= since)
+            completed.push_back({job.number, job.uuid, job.place(),
+                                 job.sheets == 0 && queues.wereOurs(job.place(), job.started)});
     }
     return completed;
+}
+
+bool scheduler::isOurs(const std::string &queue)
+{
+    return oursSince(queue).has_value();
 }
 
 bool scheduler::restart(int job)

@@ -35,14 +35,17 @@ struct CompletedJob
 {
     int number;
     std::string uuid;
-    /// No sheet of it was counted, and its queue has been as it is since before. That tells of a job without
-    /// a record; else the record tells more: filters count sheets, too, and so did an earlier run of the job.
+    std::string queue; ///< where it was printed
+    /// No sheet of it was counted, and its queue has been this backend's since before. That tells of a job
+    /// without a record; else the record tells more: filters count sheets, too, and so did an earlier run of
+    /// the job.
     bool isUncounted;
 };
 
-/// Those among the jobs that ended last which were started `since` then, on queues that are of this backend
-/// now.
+/// Those among the jobs that ended last which were started `since` then.
 std::vector<CompletedJob> completedJobs(time_t since);
+/// Whether the queue prints through this backend now.
+bool isOurs(const std::string &queue);
 /// Has a job that ended started again.
 bool restart(int job);
 

@@ -1,5 +1,5 @@
-// The backend when it, its guard, its filters or the print server are killed or stopped: what the server says of
-// a job is what the roll of the printer says.
+// The backend when it, its guard, its filters or the print server are killed or stopped: what the server says
+// of a job is what the roll of the printer says.
 
 #include "printertest.h"
 #include "program.h"
@@ -15,6 +15,16 @@ using namespace Qt::Literals::StringLiterals;
 class KilledTest : public PrinterTest
 {
     Q_OBJECT
+
+private:
+    /// "other:/", which takes everything and prints nothing.
+    void addOtherBackend()
+    {
+        const QString other = server.folder() + u"/bin/backend/other"_s;
+        QFile script(other);
+        QVERIFY(script.open(QIODevice::WriteOnly) && script.write("#!/bin/sh\nexit 0\n") > 0);
+        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    }
 
 private Q_SLOTS:
     /// A machine that is shut down while tickets wait.
@@ -315,10 +325,7 @@ private Q_SLOTS:
     {
         PrinterProcess printer;
         acquaint(queueFor(printer)); // from now on there are records
-        const ScratchFolder scripts;
-        const QString other = server.folder() + u"/bin/backend/other"_s;
-        QVERIFY(QFile::rename(scripts.write(u"other"_s, "#!/bin/sh\nexit 0\n"), other));
-        QFile::setPermissions(other, QFile::ReadOwner | QFile::ExeOwner);
+        addOtherBackend();
         server.addQueue(u"changed"_s, "other:/");
         const int old = server.submit(u"changed"_s, ticket(49));
         QCOMPARE(server.awaitState(old, {JobInfo::Completed}).state, int(JobInfo::Completed));
@@ -328,6 +335,27 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 10'000);
         QCOMPARE(server.job(old).state, int(JobInfo::Completed));
         QCOMPARE(printer.count(firstRow(49)), 0);
+    }
+
+    /// Though its record here says that it did not come to an end.
+    void aJobThatWasMovedStaysPrinted()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        addOtherBackend();
+        server.addQueue(u"elsewhere"_s, "other:/");
+        printer.habit("cover open");
+        const int job = server.submit(queue, ticket(80));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("cover-open-error"), 15'000);
+        server.run(u"lpmove"_s, {QString::number(job), u"elsewhere"_s});
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).state, int(JobInfo::Completed));
+        const qsizetype started = server.logOf(job).count("Started backend");
+        printer.habit("cover closed");
+        acquaint(queue);
+        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 10'000);
+        QCOMPARE(server.job(job).state, int(JobInfo::Completed));
+        QCOMPARE(server.logOf(job).count("Started backend"), started);
     }
 
     /// Nobody is left to hear its exit code, so it has the job held while it prints, and released when it is

@@ -32,10 +32,7 @@ protected:
     }
 
 private Q_SLOTS:
-    void cleanup()
-    {
-        server.run(QStringLiteral("cancel"), {QStringLiteral("-a"), QStringLiteral("-x")});
-    }
+    void cleanup() { server.run(QStringLiteral("cancel"), {QStringLiteral("-a"), QStringLiteral("-x")}); }
 
 private:
     int number = 100;
