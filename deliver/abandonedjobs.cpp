@@ -10,6 +10,15 @@ namespace {
 
 constexpr time_t longAgo = 24L * 60 * 60; // seconds; for so long the server usually keeps the files of a job
 
+/// A class may have it printed by another backend, which knows no records.
+void startAgain(const scheduler::CompletedJob &job)
+{
+    if (job.isOfClass)
+        scheduler::restartHeld(job.number);
+    else
+        scheduler::restart(job.number);
+}
+
 } // namespace
 
 /// Not before records were kept: jobs without one may have been printed some other way.
@@ -17,9 +26,8 @@ void saveAbandonedJobs(const OwnFolder &folder)
 {
     const time_t since = std::max(recordsKeptSince(folder), time(nullptr) - longAgo);
     for (const scheduler::CompletedJob &job : scheduler::completedJobs(since))
-        doubtFreeRecord(folder, job.uuid, job.isUncounted, [&job] {
-            if (scheduler::isOurs(job.queue)) // it may have been moved
-                scheduler::restart(job.number);
-        });
+        settleFreeRecord(
+            folder, job.uuid, job.isUncounted, [&job] { return scheduler::isOurs(job.queue); },
+            [&job] { startAgain(job); });
     removeOldRecords(folder);
 }

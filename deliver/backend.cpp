@@ -126,7 +126,7 @@ private:
     int afterDeath();
     void lookAfterOthers() const;
     void handBack();
-    std::string begin(const Interruptions &interrupted);
+    Delivery::Beginning begin(const Interruptions &interrupted);
     void tellUnknown(const std::string &why);
     std::string markOfCopy() const;
 
@@ -312,14 +312,14 @@ void Run::handBack()
 }
 
 /// Without a guard nobody stops what a person has cancelled.
-std::string Run::begin(const Interruptions &interrupted)
+Delivery::Beginning Run::begin(const Interruptions &interrupted)
 {
     if (interrupted.isOrphan() && scheduler::isOver(job.number))
-        return "it was cancelled.";
+        return Delivery::Beginning::Cancelled;
     if (!record->set(JobRecord::State::Sending))
-        return "the record of the job cannot be written; look for room on the disk of the print server.";
+        return Delivery::Beginning::Impossible;
     stage.set(Stage::Sending);
-    return {};
+    return Delivery::Beginning::Made;
 }
 
 int Run::conclude(Delivery::Outcome outcome, const std::string &why)

@@ -219,8 +219,12 @@ PrinterChannel::Event Delivery::tryProof()
 
 Delivery::End Delivery::send()
 {
-    if (const std::string against = around.begin(); !against.empty())
-        return notPrinted(against);
+    const Beginning beginning = around.begin();
+    if (beginning == Beginning::Cancelled)
+        return Outcome::Stopped;
+    if (beginning == Beginning::Impossible)
+        return notPrinted(
+            "the record of the job cannot be written; look for room on the disk of the print server.");
     around.report.info("Printing.");
     for (off_t place = 0; place < ticket.size();) {
         const std::string piece = ticket.piece(place);
@@ -307,9 +311,10 @@ Delivery::End Delivery::finishUnconfirmed()
         event = receiveUntil([] { return false; }, closes);
     // It may close its side early, and take what is on the way after that.
     while (event == Event::Late || (event == Event::Broken && channel.isClosedInOrder())) {
-        if (channel.look() == Event::Broken)
+        const bool isTaken = channel.bytesOnTheWay() == 0;
+        if (channel.look() == Event::Broken) // then nobody knows what became of them
             return brokenOff(Event::Broken, {});
-        if (channel.bytesOnTheWay() == 0)
+        if (isTaken)
             return Outcome::Unconfirmed;
         if (Clock::now() >= until)
             return unknown("the printer did not take all of it within " + seconds(address.wait));

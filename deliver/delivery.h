@@ -29,15 +29,20 @@ public:
         Stopped,     ///< the backend was told to stop
     };
 
+    enum class Beginning {
+        Made,
+        Cancelled,  ///< nobody wants the job any more
+        Impossible, ///< it cannot be written down
+    };
+
     /// What the delivery needs of its surroundings; all of it must outlive the delivery.
     struct Surroundings
     {
         Report &report;
         const OwnFolder *memoryFolder; ///< null: what printers answer is not kept
         Interruptions &interrupted;
-        /// Writes down that bytes go out from now on. What is against it, part of a sentence; "" for nothing.
-        std::function<std::string()> begin;
-        bool hasStandIn; ///< another printer can take the ticket
+        std::function<Beginning()> begin; ///< writes down that bytes go out from now on; else none do
+        bool hasStandIn;                  ///< another printer can take the ticket
     };
 
     Delivery(const DeviceAddress &address, const Ticket &ticket, const Surroundings &surroundings);

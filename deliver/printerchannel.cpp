@@ -113,11 +113,12 @@ std::string PrinterChannel::resolve()
     return resolved;
 }
 
-/// A host may tell its addresses in another order each time, and a name server may be out of reach.
+/// A host may tell its addresses in another order each time, and a name server may be out of reach. A device
+/// that is gone has not moved, but where a link led to it, another one may have its name.
 bool PrinterChannel::isStillThere() const
 {
     if (!isNetwork())
-        return deviceAt(where.path) == resolved;
+        return where.path == resolved || deviceAt(where.path) == resolved;
     int error = 0;
     const AddressList list = addressesOf(where.host, where.port, error);
     return !list || isAmong(list.get(), number);

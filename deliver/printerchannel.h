@@ -31,7 +31,7 @@ public:
 
     /// Finds the printer's address. "" when there is none now; `trouble` says why.
     std::string resolve();
-    /// Whether that is its address still, as far as anybody knows.
+    /// Whether it is known to be nowhere else.
     bool isStillThere() const;
     Event open(Clock::time_point until);
     void close();

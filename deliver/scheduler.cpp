@@ -17,13 +17,23 @@ bool isGood(const Answer &answer)
     return answer && ippGetStatusCode(answer.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
 }
 
-Answer request(ipp_op_t operation, int job)
+ipp_t *requestFor(ipp_op_t operation, int job)
 {
     ipp_t *request = ippNewRequest(operation);
     const std::string uri = "ipp://localhost/jobs/" + std::to_string(job);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.c_str());
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    return request;
+}
+
+Answer answerTo(ipp_t *request)
+{
     return {cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/jobs"), ippDelete};
+}
+
+Answer request(ipp_op_t operation, int job)
+{
+    return answerTo(requestFor(operation, job));
 }
 
 bool isDone(ipp_op_t operation, int job)
@@ -94,8 +104,9 @@ struct JobReader
     {
         return number > 0 && state == IPP_JSTATE_COMPLETED && started > 0 && !uuid.empty();
     }
-    /// Where it was printed.
-    const std::string &place() const { return printer.empty() ? queue : printer; }
+    bool isOfClass() const { return queue.find("/classes/") != std::string::npos; }
+    /// Where it was printed. A job that is moved out of a class keeps the name of the class's printer.
+    const std::string &place() const { return isOfClass() && !printer.empty() ? printer : queue; }
 };
 
 /// Since when the queue has printed through this backend as it does now; empty when it does not.
@@ -208,7 +219,7 @@ std::vector<scheduler::CompletedJob> scheduler::completedJobs(time_t since)
     Queues queues;
     for (const JobReader &job : jobsIn(answer)) {
         if (job.isCompleted() && job.started >= since)
-            completed.push_back({job.number, job.uuid, job.place(),
+            completed.push_back({job.number, job.uuid, job.place(), job.isOfClass(),
                                  job.sheets == 0 && queues.wereOurs(job.place(), job.started)});
     }
     return completed;
@@ -222,4 +233,11 @@ bool scheduler::isOurs(const std::string &queue)
 bool scheduler::restart(int job)
 {
     return isDone(IPP_OP_RESTART_JOB, job);
+}
+
+bool scheduler::restartHeld(int job)
+{
+    ipp_t *request = requestFor(IPP_OP_RESTART_JOB, job);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "job-hold-until", nullptr, "indefinite");
+    return isGood(answerTo(request));
 }

@@ -35,7 +35,8 @@ struct CompletedJob
 {
     int number;
     std::string uuid;
-    std::string queue; ///< where it was printed
+    std::string queue; ///< where it was printed; of a class: the printer
+    bool isOfClass;
     /// No sheet of it was counted, and its queue has been this backend's since before. That tells of a job
     /// without a record; else the record tells more: filters count sheets, too, and so did an earlier run of
     /// the job.
@@ -48,5 +49,7 @@ std::vector<CompletedJob> completedJobs(time_t since);
 bool isOurs(const std::string &queue);
 /// Has a job that ended started again.
 bool restart(int job);
+/// The same, when a person has released it.
+bool restartHeld(int job);
 
 } // namespace scheduler

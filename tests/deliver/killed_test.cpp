@@ -26,6 +26,15 @@ private:
         QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
     }
 
+    /// At once: the one that is left for a moment does nothing in it.
+    void killAllBackends()
+    {
+        for (const int signal : {SIGSTOP, SIGKILL}) {
+            for (const qint64 process : server.backends())
+                ::kill(pid_t(process), signal);
+        }
+    }
+
 private Q_SLOTS:
     /// A machine that is shut down while tickets wait.
     void aServerThatIsStoppedKeepsItsJobs()
@@ -153,8 +162,7 @@ private Q_SLOTS:
         printer.habit(habit);
         const int job = server.submit(queue, ticket(48));
         QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains(reason), 15'000);
-        for (const qint64 process : server.backends())
-            ::kill(pid_t(process), SIGKILL);
+        killAllBackends();
         QCOMPARE(server.awaitState(job, {JobInfo::Completed}).sheets, 0);
         printer.habit(cure);
         acquaint(queue);
@@ -193,8 +201,7 @@ private Q_SLOTS:
             server.run(u"lp"_s, {u"-i"_s, QString::number(job), u"-H"_s, u"restart"_s});
         }
         QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
-        for (const qint64 process : server.backends())
-            ::kill(pid_t(process), SIGKILL);
+        killAllBackends();
         QCOMPARE(server.awaitState(job, {JobInfo::Completed}).state, int(JobInfo::Completed));
         if (how == "queue"_L1) {
             QTest::qSleep(1100);
@@ -338,15 +345,24 @@ private Q_SLOTS:
     }
 
     /// Though its record here says that it did not come to an end.
+    void aJobThatWasMovedStaysPrinted_data()
+    {
+        QTest::addColumn<bool>("isOfClass");
+        QTest::newRow("from a queue") << false;
+        QTest::newRow("from a class") << true;
+    }
     void aJobThatWasMovedStaysPrinted()
     {
+        QFETCH(bool, isOfClass);
         PrinterProcess printer;
         const QString queue = queueFor(printer);
         acquaint(queue);
         addOtherBackend();
         server.addQueue(u"elsewhere"_s, "other:/");
+        if (isOfClass)
+            addToClass(u"some"_s, queue);
         printer.habit("cover open");
-        const int job = server.submit(queue, ticket(80));
+        const int job = server.submit(isOfClass ? u"some"_s : queue, ticket(80));
         QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("cover-open-error"), 15'000);
         server.run(u"lpmove"_s, {QString::number(job), u"elsewhere"_s});
         QCOMPARE(server.awaitState(job, {JobInfo::Completed}).state, int(JobInfo::Completed));
@@ -356,6 +372,30 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 10'000);
         QCOMPARE(server.job(job).state, int(JobInfo::Completed));
         QCOMPARE(server.logOf(job).count("Started backend"), started);
+        server.run(u"lpadmin"_s, {u"-x"_s, u"some"_s});
+    }
+
+    /// The others of its class may not ask whether it was printed.
+    void anAbandonedJobOfAClassIsNotPrintedElsewhere()
+    {
+        PrinterProcess printer;
+        const QString queue = queueFor(printer);
+        acquaint(queue);
+        addOtherBackend();
+        server.addQueue(u"elsewhere"_s, "other:/");
+        addToClass(u"mixed"_s, queue);
+        printer.habit("paper 3");
+        const int job = server.submit(u"mixed"_s, ticket(81));
+        QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("media-empty-error"), 15'000);
+        addToClass(u"mixed"_s, u"elsewhere"_s);
+        killAllBackends();
+        QCOMPARE(server.awaitState(job, {JobInfo::Completed}).state, int(JobInfo::Completed));
+        const qsizetype started = server.logOf(job).count("Started backend");
+        printer.habit("paper 1000");
+        acquaint(queue);
+        QTRY_COMPARE_WITH_TIMEOUT(server.job(job).state, int(JobInfo::Held), 10'000);
+        QCOMPARE(server.logOf(job).count("Started backend"), started);
+        server.run(u"lpadmin"_s, {u"-x"_s, u"mixed"_s});
     }
 
     /// Nobody is left to hear its exit code, so it has the job held while it prints, and released when it is

@@ -26,6 +26,13 @@ protected:
         const int job = server.submit(queue, ticket(++number));
         QCOMPARE(server.awaitState(job, {JobInfo::Completed}).state, int(JobInfo::Completed));
     }
+    /// Makes the class where there is none.
+    void addToClass(const QString &name, const QString &queue)
+    {
+        server.run(QStringLiteral("lpadmin"), {QStringLiteral("-p"), queue, QStringLiteral("-c"), name});
+        for (const QString &command : {QStringLiteral("cupsenable"), QStringLiteral("cupsaccept")})
+            server.run(command, {name});
+    }
     static bool isWhole(const PrinterProcess &printer, int ticket)
     {
         return printer.count(firstRow(ticket)) == 1 && printer.count(lastRow(ticket)) == 1;

@@ -622,11 +622,10 @@ private Q_SLOTS:
         PrinterProcess first;
         PrinterProcess second;
         for (const PrinterProcess *printer : {&first, &second}) {
-            acquaint(queueFor(*printer));
-            server.run(u"lpadmin"_s, {u"-p"_s, u"queue%1"_s.arg(printer->port()), u"-c"_s, u"either"_s});
+            const QString queue = queueFor(*printer);
+            acquaint(queue);
+            addToClass(u"either"_s, queue);
         }
-        for (const QString &command : {u"cupsenable"_s, u"cupsaccept"_s})
-            server.run(command, {u"either"_s});
         for (PrinterProcess *printer : {&first, &second})
             printer->habit("reset 100");
         const int job = server.submit(u"either"_s, ticket(41));
@@ -645,10 +644,8 @@ private Q_SLOTS:
         acquaint(queue);
         for (const auto &[name, printer] : {std::pair(u"way"_s, &busy), std::pair(u"other"_s, &free)}) {
             server.addQueue(name, printer->uri("wait=60"));
-            server.run(u"lpadmin"_s, {u"-p"_s, name, u"-c"_s, u"pair"_s});
+            addToClass(u"pair"_s, name);
         }
-        for (const QString &command : {u"cupsenable"_s, u"cupsaccept"_s})
-            server.run(command, {u"pair"_s});
         busy.habit("cover open");
         server.submit(queue, ticket(43));
         QTRY_VERIFY_WITH_TIMEOUT(server.reasons(queue).contains("cover-open-error"), 15'000);
