@@ -192,17 +192,18 @@ std::string identityOf(pid_t process)
 }
 
 void settleFreeRecord(const OwnFolder &folder, std::string_view uuid, bool evenWithoutRecord,
-                      const std::function<bool()> &isOurs, const std::function<void()> &doubt)
+                      const std::function<std::optional<bool>()> &isOurs, const std::function<void()> &doubt)
 {
     const std::string name = fileName(uuid);
     const int descriptor = folder.open(name, evenWithoutRecord ? O_RDWR | O_CREAT : O_RDWR);
     if (descriptor < 0)
         return;
     const bool isFree = flock(descriptor, LOCK_EX | LOCK_NB) == 0 && isStillThere(descriptor, folder, name);
-    if (isFree && !isFinished(wordIn(contentOf(descriptor)).state)) {
-        const bool isDoubtful = isOurs();
-        const JobRecord::State state = isDoubtful ? JobRecord::State::Sending : JobRecord::State::Unconfirmed;
-        if (rewriteDurably(descriptor, recordText(state, 0, {})) && isDoubtful)
+    const bool isOpen = isFree && !isFinished(wordIn(contentOf(descriptor)).state);
+    if (const std::optional<bool> isDoubtful = isOpen ? isOurs() : std::nullopt) {
+        const JobRecord::State state =
+            *isDoubtful ? JobRecord::State::Sending : JobRecord::State::Unconfirmed;
+        if (rewriteDurably(descriptor, recordText(state, 0, {})) && *isDoubtful)
             doubt();
     }
     close(descriptor);

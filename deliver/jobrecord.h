@@ -4,6 +4,7 @@
 
 #include <ctime>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <sys/types.h>
@@ -64,11 +65,12 @@ std::string identityOf(pid_t process);
 
 /// Looks at the record of a job that ended for the scheduler, unless somebody has it open; nobody can open it
 /// meanwhile. Where it says that the job did not come to an end, and `isOurs` that it was not printed
-/// elsewhere, calls `doubt`. By then it says that bytes may have gone out, whatever it said before: the job
-/// is not taken for one that a person released, and not printed behind the back of a person who has taken it
-/// for lost. A job without a record is doubted, and gets one, when `evenWithoutRecord`.
+/// elsewhere, calls `doubt`; where `isOurs` does not know, all stays as it is. By then it says that bytes may
+/// have gone out, whatever it said before: the job is not taken for one that a person released, and not
+/// printed behind the back of a person who has taken it for lost. A job without a record is doubted, and gets
+/// one, when `evenWithoutRecord`.
 void settleFreeRecord(const OwnFolder &folder, std::string_view uuid, bool evenWithoutRecord,
-                      const std::function<bool()> &isOurs, const std::function<void()> &doubt);
+                      const std::function<std::optional<bool>()> &isOurs, const std::function<void()> &doubt);
 /// Since when records have been kept in the folder; now when none are.
 time_t recordsKeptSince(const OwnFolder &folder);
 /// Removes records that nobody needs any more, once an hour.

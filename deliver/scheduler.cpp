@@ -109,20 +109,32 @@ struct JobReader
     const std::string &place() const { return isOfClass() && !printer.empty() ? printer : queue; }
 };
 
-/// Since when the queue has printed through this backend as it does now; empty when it does not.
-std::optional<time_t> oursSince(const std::string &queue)
+constexpr const char *wantedOfQueue[] = {"device-uri", "printer-config-change-time"};
+
+Answer attributesOf(const std::string &queue)
 {
-    constexpr const char *wanted[] = {"device-uri", "printer-config-change-time"};
     ipp_t *request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, queue.c_str());
-    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", int(std::size(wanted)),
-                  nullptr, wanted);
-    const Answer answer(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"), ippDelete);
-    ipp_attribute_t *const uri =
-        isGood(answer) ? ippFindAttribute(answer.get(), wanted[0], IPP_TAG_URI) : nullptr;
-    if (!uri || !std::string_view(ippGetString(uri, 0, nullptr)).starts_with("palvestrin:"))
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  int(std::size(wantedOfQueue)), nullptr, wantedOfQueue);
+    return {cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/"), ippDelete};
+}
+
+/// Whether the queue with those attributes prints through this backend.
+bool isOfThisBackend(const Answer &queue)
+{
+    ipp_attribute_t *const uri = ippFindAttribute(queue.get(), wantedOfQueue[0], IPP_TAG_URI);
+    return uri && std::string_view(ippGetString(uri, 0, nullptr)).starts_with("palvestrin:");
+}
+
+/// Since when the queue has printed through this backend as it does now; empty when it does not, or the
+/// scheduler does not say.
+std::optional<time_t> oursSince(const std::string &queue)
+{
+    const Answer answer = attributesOf(queue);
+    if (!isGood(answer) || !isOfThisBackend(answer))
         return {};
-    ipp_attribute_t *const changed = ippFindAttribute(answer.get(), wanted[1], IPP_TAG_INTEGER);
+    ipp_attribute_t *const changed = ippFindAttribute(answer.get(), wantedOfQueue[1], IPP_TAG_INTEGER);
     return changed ? ippGetInteger(changed, 0) : 0;
 }
 
@@ -225,9 +237,12 @@ std::vector<scheduler::CompletedJob> scheduler::completedJobs(time_t since)
     return completed;
 }
 
-bool scheduler::isOurs(const std::string &queue)
+std::optional<bool> scheduler::isOurs(const std::string &queue)
 {
-    return oursSince(queue).has_value();
+    const Answer answer = attributesOf(queue);
+    if (!isGood(answer))
+        return {};
+    return isOfThisBackend(answer);
 }
 
 bool scheduler::restart(int job)

@@ -45,8 +45,8 @@ struct CompletedJob
 
 /// Those among the jobs that ended last which were started `since` then.
 std::vector<CompletedJob> completedJobs(time_t since);
-/// Whether the queue prints through this backend now.
-bool isOurs(const std::string &queue);
+/// Whether the queue prints through this backend now. Empty when it does not say.
+std::optional<bool> isOurs(const std::string &queue);
 /// Has a job that ended started again.
 bool restart(int job);
 /// The same, when a person has released it.
