@@ -63,14 +63,18 @@ private Q_SLOTS:
         QTest::addColumn<State>("after");
         QTest::addColumn<bool>("isDoubted");
         const std::optional<bool> unknown;
-        QTest::newRow("abandoned while it was sent") << State::Sending << std::optional(true) << State::Sending << true;
+        QTest::newRow("abandoned while it was sent")
+            << State::Sending << std::optional(true) << State::Sending << true;
         QTest::newRow("abandoned before that") << State::New << std::optional(true) << State::Sending << true;
-        QTest::newRow("held, and abandoned then") << State::Held << std::optional(true) << State::Sending << true;
-        QTest::newRow("printed elsewhere") << State::New << std::optional(false) << State::Unconfirmed << false;
+        QTest::newRow("held, and abandoned then")
+            << State::Held << std::optional(true) << State::Sending << true;
+        QTest::newRow("printed elsewhere")
+            << State::New << std::optional(false) << State::Unconfirmed << false;
         QTest::newRow("nobody says where") << State::Sending << unknown << State::Sending << false;
         QTest::newRow("the same, before the first byte") << State::New << unknown << State::New << false;
         QTest::newRow("printed") << State::Printed << std::optional(true) << State::Printed << false;
-        QTest::newRow("unconfirmed") << State::Unconfirmed << std::optional(true) << State::Unconfirmed << false;
+        QTest::newRow("unconfirmed") << State::Unconfirmed << std::optional(true) << State::Unconfirmed
+                                     << false;
     }
     void aRecordIsSettled()
     {
@@ -82,7 +86,8 @@ private Q_SLOTS:
         const std::optional<OwnFolder> folder = OwnFolder::at(place.filePath(u"records"_s).toStdString());
         QVERIFY(folder && JobRecord(*folder, uuid, "scheduler").set(before));
         bool wasDoubted = false;
-        settleFreeRecord(*folder, uuid, false, [&] { return isOurs; }, [&] { wasDoubted = true; });
+        settleFreeRecord(
+            *folder, uuid, false, [&] { return isOurs; }, [&] { wasDoubted = true; });
         QCOMPARE(wasDoubted, isDoubted);
         QVERIFY(stateIn(*folder) == after);
     }
@@ -95,7 +100,8 @@ private Q_SLOTS:
         JobRecord record(*folder, uuid, "scheduler");
         QVERIFY(record.set(State::Sending));
         bool wasDoubted = false;
-        settleFreeRecord(*folder, uuid, true, [] { return std::optional(true); }, [&] { wasDoubted = true; });
+        settleFreeRecord(
+            *folder, uuid, true, [] { return std::optional(true); }, [&] { wasDoubted = true; });
         QVERIFY(!wasDoubted);
     }
 
@@ -112,8 +118,8 @@ private Q_SLOTS:
         const std::optional<OwnFolder> folder = OwnFolder::at(place.filePath(u"records"_s).toStdString());
         QVERIFY(folder);
         bool wasDoubted = false;
-        settleFreeRecord(*folder, uuid, evenWithoutRecord, [] { return std::optional(true); },
-                         [&] { wasDoubted = true; });
+        settleFreeRecord(
+            *folder, uuid, evenWithoutRecord, [] { return std::optional(true); }, [&] { wasDoubted = true; });
         QCOMPARE(wasDoubted, evenWithoutRecord);
         QCOMPARE(QFile::exists(place.filePath(u"records/urn_uuid_1.job"_s)), evenWithoutRecord);
     }

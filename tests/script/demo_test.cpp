@@ -1,8 +1,11 @@
-// script/demo says what is wrong with its words before it installs, builds or prints anything.
+// script/demo says what is wrong with its words before it installs, builds or prints anything, and builds
+// what it runs.
 
 #include "program.h"
 #include "scratchfolder.h"
+#include "wholefile.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,6 +24,29 @@ private:
     }
 
 private Q_SLOTS:
+    /// A backend has the name of the command, too.
+    void theCommandIsBuilt_data()
+    {
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("demo") << u"demo"_s << u"script/build (.+)"_s;
+        QTest::newRow("bench") << u"bench"_s << u"--target (.+) \\\\"_s;
+    }
+    void theCommandIsBuilt()
+    {
+        QFETCH(QString, script);
+        QFETCH(QString, line);
+        const QString text = QString::fromUtf8(contentOf(SOURCE_FOLDER u"/script/"_s + script));
+        const QStringList targets = QRegularExpression(line).match(text).captured(1).split(u' ');
+        const ProgramRun run =
+            runProgram(QStringLiteral(NINJA),
+                       QStringList{u"-C"_s, QStringLiteral(BUILD_FOLDER), u"-t"_s, u"commands"_s} + targets,
+                       {u"PATH="_s + qEnvironmentVariable("PATH")});
+        QCOMPARE(run.failure, QString());
+        for (const QByteArray &program : {"palvestrin", "palvestrin-print", "palvestrin-draw"})
+            QVERIFY2(run.standardOutput.contains(" -o bin/" + program + ' '), program.constData());
+    }
+
     void wrongWords_data()
     {
         QTest::addColumn<QStringList>("arguments");
