@@ -43,8 +43,8 @@ private Q_SLOTS:
                        QStringList{u"-C"_s, QStringLiteral(BUILD_FOLDER), u"-t"_s, u"commands"_s} + targets,
                        {u"PATH="_s + qEnvironmentVariable("PATH")});
         QCOMPARE(run.failure, QString());
-        for (const QByteArray &program : {"palvestrin", "palvestrin-print", "palvestrin-draw"})
-            QVERIFY2(run.standardOutput.contains(" -o bin/" + program + ' '), program.constData());
+        for (const char *const program : {"palvestrin", "palvestrin-print", "palvestrin-draw"})
+            QVERIFY2(run.standardOutput.contains(QByteArray(" -o bin/") + program + ' '), program);
     }
 
     void wrongWords_data()
