@@ -424,7 +424,7 @@ private Q_SLOTS:
         ::kill(pid_t(std::ranges::min(both)), SIGKILL);
         QCOMPARE(server.awaitState(job, {JobInfo::Completed, JobInfo::Held}).state, int(JobInfo::Held));
         printer.habit(cure);
-        QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 15'000);
+        awaitLull();
         QTRY_COMPARE_WITH_TIMEOUT(server.job(job).state, end, 10'000);
         QTRY_VERIFY_WITH_TIMEOUT(server.backends().isEmpty(), 10'000); // nothing is begun again
         QCOMPARE(server.job(job).state, end);

@@ -3,6 +3,7 @@
 #include "printerprocess.h"
 #include "printserver.h"
 
+#include <QDeadlineTimer>
 #include <QTest>
 
 /// A test of the backend under a print server of its own, which has no jobs when a case begins.
@@ -32,6 +33,14 @@ protected:
         server.run(QStringLiteral("lpadmin"), {QStringLiteral("-p"), queue, QStringLiteral("-c"), name});
         for (const QString &command : {QStringLiteral("cupsenable"), QStringLiteral("cupsaccept")})
             server.run(command, {name});
+    }
+    /// Waits until no backend runs, be it for a moment: the next one may begin at once.
+    void awaitLull() const
+    {
+        const QDeadlineTimer patience(15'000);
+        while (!server.backends().isEmpty() && !patience.hasExpired())
+            QTest::qSleep(10);
+        QVERIFY(!patience.hasExpired());
     }
     static bool isWhole(const PrinterProcess &printer, int ticket)
     {
