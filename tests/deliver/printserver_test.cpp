@@ -601,6 +601,20 @@ private Q_SLOTS:
         }
     }
 
+    void aPrinterHangsUpWhenItIsAsked()
+    {
+        RawPrinter printer;
+        server.addQueue(u"shy"_s, printer.uri("wait=4"));
+        const int job = server.submit(u"shy"_s, ticket(82));
+        printer.accept();
+        printer.closeItsSide();
+        QTRY_COMPARE_WITH_TIMEOUT(server.job(job).message,
+                                  QByteArray("Not printed yet: the connection broke off when the printer was "
+                                             "asked how it is: the printer closed the connection."),
+                                  10'000);
+        QCOMPARE(server.job(job).state, int(JobInfo::Processing));
+    }
+
     /// What it has not taken by then is lost.
     void aPrinterClosesItsSideEarly()
     {
